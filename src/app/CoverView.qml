@@ -1,0 +1,145 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import Larkwells
+
+// The cover of the book with its drop-down menu.
+Page {
+    id: root
+    objectName: "CoverView"
+    title: qsTr("The Larkwells Book")
+    // Unwinding to the cover (from the about list) needs nothing more here.
+    readonly property var unwindTargets: ["unwindSegue"]
+    function unwind(identifier: string) {}
+
+    CoverViewController { id: controller }
+    Component.onCompleted: controller.viewDidLoad()
+    StackView.onActivating: controller.viewWillAppear()
+    StackView.onDeactivating: controller.viewWillDisappear()
+
+    background: Rectangle { color: "#14233a" }
+
+    Image {
+        id: img
+        objectName: "img"
+        anchors.fill: parent
+        source: controller.img
+        fillMode: root.width <= root.height ? Image.PreserveAspectCrop : Image.PreserveAspectFit
+        sourceSize.height: Math.max(root.height, 1) * Screen.devicePixelRatio
+        smooth: true
+        asynchronous: false
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("The Larkwells Book cover")
+    }
+
+    Button {
+        id: controlButton
+        objectName: "ControlButton"
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: 16
+        width: 56
+        height: 48
+        text: controller.menuOpen ? "✕" : "☰"
+        font.pixelSize: 24
+        contentItem: Label {
+            text: controlButton.text
+            font: controlButton.font
+            color: "black"
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+        background: Rectangle {
+            radius: 10
+            border.width: 2
+            border.color: "black"
+            color: controlButton.down ? "#c9dede" : Qt.hsva(0.5, 0.06, 0.96, 0.94)
+        }
+        Accessible.name: controller.menuOpen ? qsTr("Close menu") : qsTr("Menu")
+        Accessible.onPressAction: clicked()
+        onClicked: controller.HandleSelection()
+    }
+
+    Flickable {
+        anchors.top: controlButton.bottom
+        anchors.topMargin: 12
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(root.width - 32, 320)
+        contentHeight: menuButtons.height + 24
+        interactive: contentHeight > height
+        clip: true
+
+        Column {
+            id: menuButtons
+            objectName: "MenuButtons"
+            width: parent.width
+            spacing: controller.menuOpen ? 8 : 0
+            Behavior on spacing { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
+
+            readonly property bool listReady: Navigator.canPerform("PoemPrayerSegue")
+
+            MenuButton {
+                id: todayButton
+                objectName: "TodayButton"
+                width: parent.width
+                shown: controller.menuOpen
+                text: qsTr("Today")
+                enabled: menuButtons.listReady
+                onClicked: controller.TodayButtonClicked()
+            }
+            MenuButton {
+                objectName: "GoodMorningButton"
+                width: parent.width
+                shown: controller.menuOpen
+                text: qsTr("Good Morning")
+                enabled: menuButtons.listReady
+                onClicked: controller.GoodMorningButtonClicked()
+            }
+            MenuButton {
+                objectName: "GoodNightButton"
+                width: parent.width
+                shown: controller.menuOpen
+                text: qsTr("Good Night")
+                enabled: menuButtons.listReady
+                onClicked: controller.GoodNightButtonClicked()
+            }
+            MenuButton {
+                id: favoritesButton
+                objectName: "FavoritesButton"
+                width: parent.width
+                shown: controller.menuOpen
+                text: qsTr("Favorites")
+                enabled: menuButtons.listReady
+                onClicked: controller.FavoriteButtonClicked()
+            }
+            Repeater {
+                // Buttons whose screens open through their own transitions.
+                model: [
+                    { outlet: "SpecialDaysButton", title: qsTr("Special Days"), segue: "SpecialDaysSegue" },
+                    { outlet: "SearchButton", title: qsTr("Search"), segue: "SearchSegue" },
+                    { outlet: "NotesButton", title: qsTr("Notes"), segue: "NotesSegue" },
+                    { outlet: "AboutButton", title: qsTr("About"), segue: "AboutSegue" },
+                    { outlet: "UserDefaultsButton", title: qsTr("User Defaults"), segue: "UserDefaultsSegue" },
+                    { outlet: "RateShareButton", title: qsTr("Rate & Share"), segue: "SettingsSegue" },
+                    { outlet: "ImportExportButton", title: qsTr("Import & Export"), segue: "ImportExportSegue" },
+                    { outlet: "ResetButton", title: qsTr("Update Files"), segue: "ExportMenuSegue" }
+                ]
+                delegate: MenuButton {
+                    required property var modelData
+                    objectName: modelData.outlet
+                    width: menuButtons.width
+                    text: modelData.title
+                    shown: controller.menuOpen
+                           && !(modelData.outlet === "ImportExportButton" && controller.ImportExportButtonHidden)
+                    enabled: Navigator.canPerform(modelData.segue)
+                    onClicked: {
+                        if (modelData.outlet === "RateShareButton")
+                            controller.RateShareButtonClicked()
+                        Navigator.performSegue(modelData.segue)
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,77 @@
+#include "CoverViewController.h"
+
+#include "Alerts.h"
+#include "Bundle.h"
+#include "Log.h"
+#include "Navigator.h"
+#include "PageFile.h"
+#include "Selection.h"
+#include "UserDefaults.h"
+#include "Wallpapers.h"
+
+using namespace Qt::StringLiterals;
+
+CoverViewController::CoverViewController(QObject *parent)
+    : QObject(parent)
+{
+}
+
+QUrl CoverViewController::img() const
+{
+    return Bundle::main().imageUrl(u"Cover"_s);
+}
+
+void CoverViewController::viewDidLoad()
+{
+    UserDefaults &userDefaults = UserDefaults::standard();
+    if (userDefaults.boolForKey(hasBeenLaunchedBeforeFlag)) {
+        Log::line(u"Not First Launch"_s);
+    } else {
+        // Set before seeding: a seeding that fails is not tried again on a later launch.
+        userDefaults.set(hasBeenLaunchedBeforeFlag, true);
+        userDefaults.synchronize();
+        Log::line(u"First Launch"_s);
+        m_seeding.clearPoemPrayers();
+        m_seeding.loadPoemPrayers(PageFile::columns);
+        Alerts::shared().present({u"Initial Setup Recomendations?"_s,
+                                  u"It's recommended that you go to the User Defaults Menu and turn on wallpapers and select custom fonts to enhance your experience."_s,
+                                  {u"Ok"_s}, {}});
+    }
+    Wallpapers::enableUnsetWallpapers();
+}
+
+void CoverViewController::viewWillAppear()
+{
+    Selection::shared().setSelectedList(QString());
+}
+
+void CoverViewController::viewWillDisappear()
+{
+    if (m_menuOpen)
+        flipMenu();
+}
+
+void CoverViewController::HandleSelection()
+{
+    flipMenu();
+}
+
+void CoverViewController::flipMenu()
+{
+    // Every menu button flips between hidden and shown; the import-and-export button is hidden
+    // again after each flip, so it never shows.
+    m_menuOpen = !m_menuOpen;
+    m_ImportExportButtonHidden = true;
+    Q_EMIT menuOpenChanged();
+}
+
+void CoverViewController::openList(const QString &selectedList)
+{
+    Selection::shared().setSelectedList(selectedList);
+    Navigator::shared().performSegue(u"PoemPrayerSegue"_s);
+}
+
+void CoverViewController::GoodMorningButtonClicked() { openList(u"AM"_s); }
+void CoverViewController::GoodNightButtonClicked() { openList(u"PM"_s); }
+void CoverViewController::FavoriteButtonClicked() { openList(u"FAV"_s); }
+void CoverViewController::TodayButtonClicked() { openList(QString()); }

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "PageSeeding.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QUrl>
+
+// The home screen: the book's cover and a drop-down menu leading to every other screen. On the
+// first launch it fills the page table before the cover is shown.
+class CoverViewController : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    // The menu is open while its buttons (TodayButton first) are shown.
+    Q_PROPERTY(bool menuOpen READ menuOpen NOTIFY menuOpenChanged)
+    Q_PROPERTY(bool ImportExportButtonHidden READ ImportExportButtonHidden NOTIFY menuOpenChanged)
+    Q_PROPERTY(QUrl img READ img CONSTANT)
+
+public:
+    explicit CoverViewController(QObject *parent = nullptr);
+
+    bool menuOpen() const { return m_menuOpen; }
+    bool ImportExportButtonHidden() const { return m_ImportExportButtonHidden; }
+    QUrl img() const;
+
+    Q_INVOKABLE void viewDidLoad();
+    Q_INVOKABLE void viewWillAppear();
+    Q_INVOKABLE void viewWillDisappear();
+    // The control button: opens or closes the menu.
+    Q_INVOKABLE void HandleSelection();
+    Q_INVOKABLE void GoodMorningButtonClicked();
+    Q_INVOKABLE void GoodNightButtonClicked();
+    Q_INVOKABLE void FavoriteButtonClicked();
+    Q_INVOKABLE void TodayButtonClicked();
+    // The rate-and-share screen opens through its own transition; nothing to do here.
+    Q_INVOKABLE void RateShareButtonClicked() {}
+
+Q_SIGNALS:
+    void menuOpenChanged();
+
+private:
+    void openList(const QString &selectedList);
+    void flipMenu();
+
+    const QString hasBeenLaunchedBeforeFlag = QStringLiteral("hasBeenLaunchedBeforeFlag");
+    PageSeeding m_seeding;
+    bool m_menuOpen = false;
+    bool m_ImportExportButtonHidden = true;
+};

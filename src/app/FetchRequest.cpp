@@ -1,0 +1,92 @@
+#include "FetchRequest.h"
+
+#include "FatalError.h"
+#include "ManagedObject.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+Predicate::Predicate(Kind kind, QString attribute, QVariant value, QList<Predicate> subpredicates)
+    : m_kind(kind), m_attribute(std::move(attribute)), m_value(std::move(value)), m_subpredicates(std::move(subpredicates))
+{
+}
+
+Predicate Predicate::equals(const QString &attribute, const QVariant &value)
+{
+    return Predicate(Kind::Equals, attribute, value, {});
+}
+
+Predicate Predicate::conjunction(const QList<Predicate> &subpredicates)
+{
+    return Predicate(Kind::And, {}, {}, subpredicates);
+}
+
+Predicate Predicate::disjunction(const QList<Predicate> &subpredicates)
+{
+    return Predicate(Kind::Or, {}, {}, subpredicates);
+}
+
+QVariant comparableValue(const EntityDescription &entity, const QString &attribute, const QVariant &value)
+{
+    const auto type = entity.typeOf(attribute);
+    if (!type)
+        fatalError(u"Fatal error: the entity %1 has no attribute \"%2\""_s.arg(entity.name, attribute));
+    switch (*type) {
+    case AttributeType::String:
+        return value.toString();
+    case AttributeType::Date:
+        return value.toDateTime().toUTC();
+    case AttributeType::Integer16:
+        if (value.typeId() != QMetaType::QString)
+            return value.toLongLong();
+        static const QRegularExpression decimal(u"^[+-]?[0-9]+$"_s);
+        bool ok = false;
+        const qlonglong number = value.toString().toLongLong(&ok);
+        return decimal.match(value.toString()).hasMatch() && ok ? QVariant(number) : QVariant();
+    }
+    return {};
+}
+
+QString Predicate::sql(const EntityDescription &entity, QVariantList &bindings) const
+{
+    if (m_kind == Kind::Equals) {
+        const QVariant value = comparableValue(entity, m_attribute, m_value);
+        if (!value.isValid())
+            return u"0"_s;
+        const auto type = entity.typeOf(m_attribute);
+        bindings.append(*type == AttributeType::Date ? QVariant(value.toDateTime().toString(Qt::ISODate)) : value);
+        return u"\"%1\" = ?"_s.arg(m_attribute);
+    }
+    QStringList parts;
+    for (const Predicate &sub : m_subpredicates)
+        parts.append(u'(' + sub.sql(entity, bindings) + u')');
+    if (parts.isEmpty())
+        return m_kind == Kind::And ? u"1"_s : u"0"_s;
+    return parts.join(m_kind == Kind::And ? u" AND "_s : u" OR "_s);
+}
+
+bool Predicate::evaluate(const ManagedObject &object) const
+{
+    switch (m_kind) {
+    case Kind::Equals: {
+        const QVariant wanted = comparableValue(object.entity(), m_attribute, m_value);
+        const QVariant stored = object.valueForKey(m_attribute);
+        if (!wanted.isValid() || !stored.isValid())
+            return false;
+        const auto type = object.entity().typeOf(m_attribute);
+        if (*type == AttributeType::Integer16)
+            return stored.toLongLong() == wanted.toLongLong();
+        if (*type == AttributeType::Date)
+            return stored.toDateTime() == wanted.toDateTime();
+        return stored.toString() == wanted.toString();
+    }
+    case Kind::And:
+        return std::all_of(m_subpredicates.begin(), m_subpredicates.end(),
+                           [&](const Predicate &p) { return p.evaluate(object); });
+    case Kind::Or:
+        return std::any_of(m_subpredicates.begin(), m_subpredicates.end(),
+                           [&](const Predicate &p) { return p.evaluate(object); });
+    }
+    return false;
+}

@@ -1,0 +1,55 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Controls.Material
+import Larkwells
+
+// The one window: a stack of screens starting at the cover, and the alert dialog.
+ApplicationWindow {
+    id: window
+    width: 420
+    height: 860
+    minimumWidth: 320
+    minimumHeight: 480
+    visible: true
+    title: qsTr("The Larkwells Book")
+    Material.theme: Material.Light
+    Material.accent: "#0d2699"
+    Material.primary: "#0d2699"
+
+    onWidthChanged: Device.windowSize = Qt.size(width, height)
+    onHeightChanged: Device.windowSize = Qt.size(width, height)
+    Component.onCompleted: Device.windowSize = Qt.size(width, height)
+
+    StackView {
+        id: stack
+        objectName: "stack"
+        anchors.fill: parent
+        initialItem: CoverView {}
+    }
+
+    Connections {
+        target: Navigator
+        function onSegueRequested(identifier: string, page: string) {
+            stack.push(page)
+        }
+        function onUnwindRequested(identifier: string) {
+            // Back to the nearest screen below that accepts this unwind, which then hears of it.
+            for (let i = stack.depth - 2; i >= 0; --i) {
+                const screen = stack.get(i, StackView.DontLoad)
+                if (screen && screen.unwindTargets && screen.unwindTargets.indexOf(identifier) >= 0) {
+                    stack.pop(screen)
+                    screen.unwind(identifier)
+                    return
+                }
+            }
+        }
+        function onPopToRootRequested() {
+            stack.pop(null)
+        }
+    }
+
+    AlertDialog {
+        anchors.centerIn: parent
+    }
+}

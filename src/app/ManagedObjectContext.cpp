@@ -1,0 +1,273 @@
+#include "ManagedObjectContext.h"
+
+#include <QSqlError>
+#include "Entities.h"
+#include "FatalError.h"
+
+#include <QSqlRecord>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QString columnList(const EntityDescription &entity)
+{
+    QStringList columns{u"id"_s};
+    for (const AttributeDescription &attribute : entity.attributes)
+        columns.append(u'"' + attribute.name + u'"');
+    return columns.join(u", "_s);
+}
+
+QVariant toColumn(AttributeType type, const QVariant &value)
+{
+    if (!value.isValid())
+        return QVariant(type == AttributeType::Integer16 ? QMetaType(QMetaType::Int) : QMetaType(QMetaType::QString));
+    if (type == AttributeType::Date)
+        return value.toDateTime().toUTC().toString(Qt::ISODate);
+    return value;
+}
+
+QVariant fromColumn(AttributeType type, const QVariant &value)
+{
+    if (value.isNull())
+        return {};
+    switch (type) {
+    case AttributeType::String: return value.toString();
+    case AttributeType::Integer16: return int(qint16(value.toInt()));
+    case AttributeType::Date: return QDateTime::fromString(value.toString(), Qt::ISODate).toUTC();
+    }
+    return {};
+}
+
+// Store order: an absent value sorts first, then numbers or text ascending.
+int compareValues(const QVariant &a, const QVariant &b)
+{
+    if (!a.isValid() || !b.isValid())
+        return int(a.isValid()) - int(b.isValid());
+    if (a.typeId() == QMetaType::QString)
+        return a.toString().compare(b.toString());
+    if (a.typeId() == QMetaType::QDateTime)
+        return a.toDateTime() < b.toDateTime() ? -1 : b.toDateTime() < a.toDateTime() ? 1 : 0;
+    return a.toLongLong() < b.toLongLong() ? -1 : b.toLongLong() < a.toLongLong() ? 1 : 0;
+}
+}
+
+QString StoreError::unresolvedMessage() const
+{
+    QStringList entries;
+    for (auto it = userInfo.begin(); it != userInfo.end(); ++it)
+        entries.append(it.key() + u" = "_s + it.value().toString() + u';');
+    return u"Unresolved error "_s + description + u", {"_s + entries.join(u' ') + u'}';
+}
+
+ManagedObjectContext::ManagedObjectContext(const QString &connectionName)
+    : m_connectionName(connectionName)
+{
+}
+
+ManagedObjectContext::~ManagedObjectContext() = default;
+
+void ManagedObjectContext::adopt(std::unique_ptr<ManagedObject> object)
+{
+    object->m_inserted = true;
+    m_inserted.append(object.get());
+    m_objects.push_back(std::move(object));
+}
+
+void ManagedObjectContext::markUpdated(ManagedObject *object)
+{
+    if (!object->m_updated && !object->m_deleted) {
+        object->m_updated = true;
+        m_updated.append(object);
+    }
+}
+
+void ManagedObjectContext::deleteObject(ManagedObject *object)
+{
+    if (!object || object->m_deleted)
+        return;
+    if (object->m_inserted) {
+        // Never saved: it simply stops being inserted.
+        object->m_inserted = false;
+        object->m_deleted = true;
+        m_inserted.removeOne(object);
+        return;
+    }
+    object->m_deleted = true;
+    m_deleted.append(object);
+}
+
+bool ManagedObjectContext::hasChanges() const
+{
+    return !m_inserted.isEmpty() || !m_updated.isEmpty() || !m_deleted.isEmpty();
+}
+
+QSqlQuery &ManagedObjectContext::prepared(const QString &sql)
+{
+    auto &statement = m_statements[sql];
+    if (!statement) {
+        statement = std::make_shared<QSqlQuery>(QSqlDatabase::database(m_connectionName, false));
+        statement->setForwardOnly(true);
+        statement->prepare(sql);
+    }
+    return *statement;
+}
+
+StoreError ManagedObjectContext::errorOf(const QSqlQuery &query) const
+{
+    const QSqlError error = query.lastError();
+    return {error.text(),
+            {{u"NSSQLiteErrorDomain"_s, error.nativeErrorCode()},
+             {u"NSFilePath"_s, QSqlDatabase::database(m_connectionName, false).databaseName()},
+             {u"reason"_s, error.databaseText()}}};
+}
+
+ManagedObject *ManagedObjectContext::objectForRow(const EntityDescription &entity, const QSqlQuery &query)
+{
+    const qint64 id = query.value(0).toLongLong();
+    ManagedObject *&object = m_registered[entity.name][id];
+    if (!object) {
+        auto fresh = makeManagedObject(entity.name, this);
+        fresh->m_id = id;
+        object = fresh.get();
+        m_objects.push_back(std::move(fresh));
+    }
+    if (!object->m_updated) {
+        for (qsizetype i = 0; i < entity.attributes.size(); ++i) {
+            const AttributeDescription &attribute = entity.attributes[i];
+            object->m_values.insert(attribute.name, fromColumn(attribute.type, query.value(int(i) + 1)));
+        }
+    }
+    return object;
+}
+
+void ManagedObjectContext::sortInMemory(QList<ManagedObject *> &objects, const QList<SortDescriptor> &sort) const
+{
+    std::stable_sort(objects.begin(), objects.end(), [&](const ManagedObject *a, const ManagedObject *b) {
+        for (const SortDescriptor &key : sort) {
+            const int order = compareValues(a->valueForKey(key.key), b->valueForKey(key.key));
+            if (order != 0)
+                return key.ascending ? order < 0 : order > 0;
+        }
+        // Saved rows in row order, then new objects in the order they were made.
+        const qint64 ida = a->m_id ? a->m_id : std::numeric_limits<qint64>::max();
+        const qint64 idb = b->m_id ? b->m_id : std::numeric_limits<qint64>::max();
+        return ida < idb;
+    });
+}
+
+QList<ManagedObject *> ManagedObjectContext::execute(const FetchRequest &request, std::optional<StoreError> *error)
+{
+    const EntityDescription &entity = EntityDescription::named(request.entityName);
+    QVariantList bindings;
+    QString sql = u"SELECT "_s + columnList(entity) + u" FROM \""_s + entity.name + u'"';
+    if (request.predicate)
+        sql += u" WHERE "_s + request.predicate->sql(entity, bindings);
+    QStringList order;
+    for (const SortDescriptor &key : request.sortDescriptors) {
+        if (!entity.typeOf(key.key))
+            fatalError(u"Fatal error: the entity %1 has no attribute \"%2\" to sort by"_s.arg(entity.name, key.key));
+        order.append(u'"' + key.key + (key.ascending ? u"\" ASC"_s : u"\" DESC"_s));
+    }
+    order.append(u"id ASC"_s);
+    sql += u" ORDER BY "_s + order.join(u", "_s);
+
+    QSqlQuery &query = prepared(sql);
+    for (qsizetype i = 0; i < bindings.size(); ++i)
+        query.bindValue(int(i), bindings[i]);
+    if (!query.exec()) {
+        if (error)
+            *error = errorOf(query);
+        return {};
+    }
+    QList<ManagedObject *> objects;
+    while (query.next()) {
+        ManagedObject *object = objectForRow(entity, query);
+        if (!object->m_deleted && !object->m_updated)
+            objects.append(object);
+    }
+    query.finish();
+
+    // Unsaved changes of this context count as if they were saved.
+    bool pending = false;
+    for (const QList<ManagedObject *> *changed : {&m_updated, &m_inserted}) {
+        for (ManagedObject *object : *changed) {
+            if (object->entity().name == entity.name && !object->m_deleted
+                && (!request.predicate || request.predicate->evaluate(*object))) {
+                objects.append(object);
+                pending = true;
+            }
+        }
+    }
+    if (pending)
+        sortInMemory(objects, request.sortDescriptors);
+    return objects;
+}
+
+void ManagedObjectContext::writeObject(ManagedObject *object, std::optional<StoreError> &error)
+{
+    const EntityDescription &entity = object->entity();
+    QStringList columns;
+    for (const AttributeDescription &attribute : entity.attributes)
+        columns.append(u'"' + attribute.name + u'"');
+    QString sql;
+    if (object->m_deleted) {
+        sql = u"DELETE FROM \""_s + entity.name + u"\" WHERE id = ?"_s;
+    } else if (object->m_inserted) {
+        sql = u"INSERT INTO \""_s + entity.name + u"\" ("_s + columns.join(u", "_s) + u") VALUES ("_s
+            + QStringList(columns.size(), u"?"_s).join(u", "_s) + u')';
+    } else {
+        sql = u"UPDATE \""_s + entity.name + u"\" SET "_s + columns.join(u" = ?, "_s) + u" = ? WHERE id = ?"_s;
+    }
+    QSqlQuery &query = prepared(sql);
+    int index = 0;
+    if (!object->m_deleted) {
+        for (const AttributeDescription &attribute : entity.attributes)
+            query.bindValue(index++, toColumn(attribute.type, object->m_values.value(attribute.name)));
+    }
+    if (!object->m_inserted)
+        query.bindValue(index, object->m_id);
+    if (!query.exec()) {
+        error = errorOf(query);
+        return;
+    }
+    if (object->m_inserted)
+        object->m_id = query.lastInsertId().toLongLong();
+    query.finish();
+}
+
+std::optional<StoreError> ManagedObjectContext::save()
+{
+    if (!hasChanges())
+        return std::nullopt;
+    QSqlDatabase database = QSqlDatabase::database(m_connectionName, false);
+    std::optional<StoreError> error;
+    if (!database.transaction())
+        return StoreError{database.lastError().text(), {{u"reason"_s, database.lastError().databaseText()}}};
+    for (const QList<ManagedObject *> *changes : {&m_inserted, &m_updated, &m_deleted}) {
+        for (ManagedObject *object : *changes) {
+            if (!error)
+                writeObject(object, error);
+        }
+    }
+    if (error || !database.commit()) {
+        if (!error)
+            error = StoreError{database.lastError().text(), {{u"reason"_s, database.lastError().databaseText()}}};
+        database.rollback();
+        for (ManagedObject *object : std::as_const(m_inserted))
+            object->m_id = 0;
+        return error;
+    }
+    for (ManagedObject *object : std::as_const(m_inserted)) {
+        object->m_inserted = false;
+        m_registered[object->entity().name].insert(object->m_id, object);
+    }
+    for (ManagedObject *object : std::as_const(m_updated))
+        object->m_updated = false;
+    for (ManagedObject *object : std::as_const(m_deleted))
+        m_registered[object->entity().name].remove(object->m_id);
+    m_inserted.clear();
+    m_updated.clear();
+    m_deleted.clear();
+    return std::nullopt;
+}

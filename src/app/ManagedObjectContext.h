@@ -1,0 +1,73 @@
+#pragma once
+
+#include "FetchRequest.h"
+#include "ManagedObject.h"
+
+#include <QHash>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QVariantMap>
+#include <memory>
+#include <vector>
+
+// An error of the store: a description and the details behind it.
+struct StoreError {
+    QString description;
+    QVariantMap userInfo;
+    // "Unresolved error <description>, <user information>": the form of every fatal store stop.
+    QString unresolvedMessage() const;
+};
+
+// The working set of stored objects on one database connection. It keeps one live object per
+// row (two fetches of a row give the same object), tracks inserts, changes and deletions, and
+// writes them all in one transaction on save. Objects live as long as their context.
+class ManagedObjectContext
+{
+public:
+    explicit ManagedObjectContext(const QString &connectionName);
+    ~ManagedObjectContext();
+
+    // Objects matching the request; unsaved changes of this context count. On a failure the
+    // list is empty and the error is reported through `error`.
+    QList<ManagedObject *> execute(const FetchRequest &request, std::optional<StoreError> *error = nullptr);
+    template<typename T>
+    QList<T *> fetch(const FetchRequest &request, std::optional<StoreError> *error = nullptr)
+    {
+        QList<T *> objects;
+        for (ManagedObject *object : execute(request, error))
+            objects.append(static_cast<T *>(object));
+        return objects;
+    }
+
+    template<typename T>
+    T *insertNewObject()
+    {
+        auto object = std::make_unique<T>(this);
+        T *raw = object.get();
+        adopt(std::move(object));
+        return raw;
+    }
+    void deleteObject(ManagedObject *object);
+
+    bool hasChanges() const;
+    // Writes every insert, change and deletion since the last save in one transaction.
+    std::optional<StoreError> save();
+
+private:
+    friend class ManagedObject;
+    void adopt(std::unique_ptr<ManagedObject> object);
+    void markUpdated(ManagedObject *object);
+    ManagedObject *objectForRow(const EntityDescription &entity, const QSqlQuery &query);
+    QSqlQuery &prepared(const QString &sql);
+    StoreError errorOf(const QSqlQuery &query) const;
+    void writeObject(ManagedObject *object, std::optional<StoreError> &error);
+    void sortInMemory(QList<ManagedObject *> &objects, const QList<SortDescriptor> &sort) const;
+
+    QString m_connectionName;
+    std::vector<std::unique_ptr<ManagedObject>> m_objects;
+    QHash<QString, QHash<qint64, ManagedObject *>> m_registered; // entity → id → object
+    QList<ManagedObject *> m_inserted;
+    QList<ManagedObject *> m_updated;
+    QList<ManagedObject *> m_deleted;
+    QHash<QString, std::shared_ptr<QSqlQuery>> m_statements;
+};

@@ -1,0 +1,131 @@
+#include "PersistentContainer.h"
+
+#include "FatalError.h"
+
+#include <QDir>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QString &directorySetting()
+{
+    static QString directory;
+    return directory;
+}
+
+StoreError errorOf(const QSqlError &error, const QString &path)
+{
+    return {error.text(), {{u"NSSQLiteErrorDomain"_s, error.nativeErrorCode()},
+                           {u"NSFilePath"_s, path},
+                           {u"reason"_s, error.databaseText()}}};
+}
+
+// Each step brings the schema from version i to i + 1, in one transaction.
+const QList<QStringList> migrations{
+    {
+        u"CREATE TABLE \"PoemPrayer\" (id INTEGER PRIMARY KEY, \"ampm\" TEXT, \"day\" INTEGER, \"dt\" TEXT, "
+        "\"favorite\" TEXT, \"month\" INTEGER, \"pagenum\" INTEGER, \"poemprayer\" TEXT)"_s,
+        u"CREATE TABLE \"Notes\" (id INTEGER PRIMARY KEY, \"ampm\" TEXT, \"day\" INTEGER, \"dt\" TEXT, "
+        "\"dtstring\" TEXT, \"month\" INTEGER, \"notes\" TEXT, \"subject\" TEXT, \"year\" INTEGER)"_s,
+        u"CREATE TABLE \"SpecialDay\" (id INTEGER PRIMARY KEY, \"ampm\" TEXT, \"dayname\" TEXT, \"poemprayer\" TEXT)"_s,
+        u"CREATE TABLE \"About\" (id INTEGER PRIMARY KEY, \"aboutText\" TEXT, \"name\" TEXT)"_s,
+        u"CREATE INDEX PoemPrayerDay ON \"PoemPrayer\" (\"month\", \"day\", \"ampm\")"_s,
+    },
+};
+}
+
+QString PersistentContainer::defaultDirectory()
+{
+    if (directorySetting().isEmpty())
+        return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return directorySetting();
+}
+
+void PersistentContainer::setDefaultDirectory(const QString &directory)
+{
+    directorySetting() = directory;
+}
+
+PersistentContainer::PersistentContainer(const QString &name)
+    : m_name(name)
+{
+    static int serial = 0;
+    m_connectionName = u"%1-%2"_s.arg(name).arg(++serial);
+}
+
+PersistentContainer::~PersistentContainer()
+{
+    m_viewContext.reset();
+    if (QSqlDatabase::contains(m_connectionName)) {
+        QSqlDatabase::database(m_connectionName, false).close();
+        QSqlDatabase::removeDatabase(m_connectionName);
+    }
+}
+
+QString PersistentContainer::storePath() const
+{
+    return QDir(defaultDirectory()).filePath(m_name + u".sqlite"_s);
+}
+
+void PersistentContainer::loadPersistentStores(const std::function<void(const std::optional<StoreError> &)> &completion)
+{
+    const std::optional<StoreError> error = open();
+    if (!error)
+        m_viewContext = std::make_unique<ManagedObjectContext>(m_connectionName);
+    completion(error);
+}
+
+ManagedObjectContext &PersistentContainer::viewContext()
+{
+    if (!m_viewContext)
+        fatalError(u"Fatal error: the store \"%1\" was used before it was loaded"_s.arg(m_name));
+    return *m_viewContext;
+}
+
+std::optional<StoreError> PersistentContainer::open()
+{
+    const QString path = storePath();
+    if (!QDir().mkpath(defaultDirectory()))
+        return StoreError{u"The folder for the store could not be created."_s, {{u"NSFilePath"_s, defaultDirectory()}}};
+    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connectionName);
+    database.setDatabaseName(path);
+    if (!database.open())
+        return errorOf(database.lastError(), path);
+    QSqlQuery pragma(database);
+    for (const QString &statement : {u"PRAGMA journal_mode = WAL"_s, u"PRAGMA synchronous = NORMAL"_s,
+                                     u"PRAGMA busy_timeout = 5000"_s}) {
+        if (!pragma.exec(statement))
+            return errorOf(pragma.lastError(), path);
+    }
+    return migrate();
+}
+
+std::optional<StoreError> PersistentContainer::migrate()
+{
+    QSqlDatabase database = QSqlDatabase::database(m_connectionName, false);
+    QSqlQuery query(database);
+    if (!query.exec(u"PRAGMA user_version"_s) || !query.next())
+        return errorOf(query.lastError(), storePath());
+    const int version = query.value(0).toInt();
+    query.finish();
+    if (version > migrations.size())
+        return StoreError{u"The store was written by a newer version of the application."_s,
+                          {{u"NSFilePath"_s, storePath()}, {u"version"_s, version}}};
+    for (int step = version; step < migrations.size(); ++step) {
+        if (!database.transaction())
+            return errorOf(database.lastError(), storePath());
+        for (const QString &statement : migrations[step] + QStringList{u"PRAGMA user_version = %1"_s.arg(step + 1)}) {
+            if (!query.exec(statement)) {
+                const StoreError error = errorOf(query.lastError(), storePath());
+                database.rollback();
+                return error;
+            }
+        }
+        if (!database.commit())
+            return errorOf(database.lastError(), storePath());
+    }
+    return std::nullopt;
+}

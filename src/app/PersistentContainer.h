@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ManagedObjectContext.h"
+
+#include <functional>
+#include <memory>
+
+// The store of the model "TheLarkwellsBook": one SQLite file, <directory>/<name>.sqlite, in WAL
+// mode, with one table per entity. Several containers may be open on the same file.
+class PersistentContainer
+{
+public:
+    explicit PersistentContainer(const QString &name);
+    ~PersistentContainer();
+    PersistentContainer(const PersistentContainer &) = delete;
+    PersistentContainer &operator=(const PersistentContainer &) = delete;
+
+    // Where stores are kept (the application's data folder unless set).
+    static QString defaultDirectory();
+    static void setDefaultDirectory(const QString &directory);
+
+    // Opens the store and brings its schema up to date; the handler gets the error, if any.
+    void loadPersistentStores(const std::function<void(const std::optional<StoreError> &)> &completion);
+    ManagedObjectContext &viewContext();
+    QString storePath() const;
+
+private:
+    std::optional<StoreError> open();
+    std::optional<StoreError> migrate();
+
+    QString m_name;
+    QString m_connectionName;
+    std::unique_ptr<ManagedObjectContext> m_viewContext;
+};

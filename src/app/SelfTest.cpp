@@ -1,0 +1,56 @@
+#include "SelfTest.h"
+
+#include "Alerts.h"
+#include "Navigator.h"
+
+#include <QCoreApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QTimer>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+int s_warnings = 0;
+QtMessageHandler s_previous = nullptr;
+
+void countWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    // QML warnings name their file; platform chatter (such as a missing runtime folder) does not.
+    const bool fromQml = QString::fromUtf8(context.file ? context.file : "").contains(u".qml"_s)
+        || message.contains(u".qml:"_s);
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && fromQml)
+        ++s_warnings;
+    s_previous(type, context, message);
+}
+
+void settle(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+}
+
+void SelfTest::Run::watchWarnings()
+{
+    s_previous = qInstallMessageHandler(countWarnings);
+}
+
+int SelfTest::Run::exec(QQmlApplicationEngine &)
+{
+    settle(200);
+    while (Alerts::shared().showing())
+        Alerts::shared().dismiss(0);
+    Navigator &navigator = Navigator::shared();
+    for (const QString &segue : navigator.segues()) {
+        std::printf("self-test: %s\n", qPrintable(segue));
+        navigator.performSegue(segue);
+        settle(400);
+        navigator.popToRoot();
+        settle(400);
+    }
+    std::printf("self-test: %d warnings\n", s_warnings);
+    return s_warnings == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}

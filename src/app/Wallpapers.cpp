@@ -1,0 +1,60 @@
+#include "Wallpapers.h"
+
+#include "UserDefaults.h"
+
+#include <QRandomGenerator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QStringList numbered(const QString &prefix, int first, int last)
+{
+    QStringList names;
+    for (int i = first; i <= last; ++i)
+        names.append(prefix + QString::number(i));
+    return names;
+}
+}
+
+const QStringList &Wallpapers::ViewerWallpaper()
+{
+    static const QStringList names = numbered(u"Page"_s, 1, 35);
+    return names;
+}
+
+const QStringList &Wallpapers::PMWallpaper()
+{
+    static const QStringList names = numbered(u"AM-"_s, 36, 70);
+    return names;
+}
+
+int Wallpapers::systemUniform(int bound)
+{
+    return int(QRandomGenerator::global()->bounded(quint32(bound)));
+}
+
+int Wallpapers::draw(const QStringList &names, int firstBound, int start, const Uniform &uniform)
+{
+    const UserDefaults &defaults = UserDefaults::standard();
+    int r = uniform(firstBound);
+    for (;;) {
+        const QVariant value = defaults.object(names.value(r));
+        if (!value.isValid())
+            return start;
+        if (value.typeId() == QMetaType::QString && value.toString() == u"true"_s)
+            return r;
+        r = uniform(34);
+    }
+}
+
+void Wallpapers::enableUnsetWallpapers()
+{
+    UserDefaults &defaults = UserDefaults::standard();
+    QList<std::pair<QString, QVariant>> missing;
+    for (const QString &name : PMWallpaper() + ViewerWallpaper()) {
+        if (!defaults.object(name).isValid())
+            missing.append({name, u"true"_s});
+    }
+    if (!missing.isEmpty())
+        defaults.setValues(missing);
+}

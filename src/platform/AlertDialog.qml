@@ -1,0 +1,40 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Larkwells
+
+// Shows the current alert of the Alerts service, modal, with its buttons in order.
+Dialog {
+    id: dialog
+    objectName: "alertDialog"
+    modal: true
+    closePolicy: Popup.NoAutoClose
+    visible: Alerts.showing
+    title: Alerts.title
+    width: Math.min(parent ? parent.width - 48 : 360, 420)
+
+    contentItem: Label {
+        text: Alerts.message
+        wrapMode: Text.WordWrap
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: Alerts.title
+        Accessible.description: text
+    }
+
+    footer: DialogButtonBox {
+        Repeater {
+            model: Alerts.buttons
+            delegate: Button {
+                required property string modelData
+                required property int index
+                text: modelData
+                flat: true
+                DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
+                Accessible.name: text
+                Accessible.onPressAction: clicked()
+                onClicked: Alerts.dismiss(index)
+            }
+        }
+    }
+}

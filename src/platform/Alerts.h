@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+#include <functional>
+
+// Modal alerts: a title, a message and buttons. Controllers present them; the window shows the
+// current one in a dialog and reports the button pressed. Alerts queue while one is showing.
+class Alerts : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool showing READ showing NOTIFY currentChanged)
+    Q_PROPERTY(QString title READ title NOTIFY currentChanged)
+    Q_PROPERTY(QString message READ message NOTIFY currentChanged)
+    Q_PROPERTY(QStringList buttons READ buttons NOTIFY currentChanged)
+
+public:
+    struct Alert {
+        QString title;
+        QString message;
+        QStringList buttons;
+        std::function<void(int)> handler; // the index of the button pressed
+    };
+
+    static Alerts &shared();
+    static Alerts *create(QQmlEngine *, QJSEngine *);
+
+    void present(Alert alert);
+    // Presents on the next turn of the event loop, like work queued on the main queue.
+    void presentAsync(Alert alert);
+
+    bool showing() const { return !m_queue.isEmpty(); }
+    QString title() const { return showing() ? m_queue.first().title : QString(); }
+    QString message() const { return showing() ? m_queue.first().message : QString(); }
+    QStringList buttons() const { return showing() ? m_queue.first().buttons : QStringList(); }
+
+    Q_INVOKABLE void dismiss(int buttonIndex);
+
+Q_SIGNALS:
+    void currentChanged();
+    void presented(const QString &title, const QString &message);
+
+private:
+    using QObject::QObject;
+    QList<Alert> m_queue;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QSizeF>
+
+// The device idiom: a phone when the shorter side of the window is below 600 logical pixels,
+// otherwise a tablet. The window reports its size; before it does, the primary screen counts.
+class Device : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(Idiom idiom READ idiom NOTIFY idiomChanged)
+    Q_PROPERTY(QSizeF windowSize READ windowSize WRITE setWindowSize NOTIFY idiomChanged)
+
+public:
+    enum Idiom { Unspecified = 0, Phone = 1, Tablet = 2 };
+    Q_ENUM(Idiom)
+
+    static Device &shared();
+    static Device *create(QQmlEngine *, QJSEngine *);
+
+    Idiom idiom() const;
+    QSizeF windowSize() const { return m_windowSize; }
+    void setWindowSize(const QSizeF &size);
+
+Q_SIGNALS:
+    void idiomChanged();
+
+private:
+    using QObject::QObject;
+    QSizeF m_windowSize;
+};

@@ -1,0 +1,55 @@
+#include "Navigator.h"
+
+#include "FatalError.h"
+
+using namespace Qt::StringLiterals;
+
+Navigator::Navigator(QObject *parent)
+    : QObject(parent)
+    , m_pages{
+      }
+{
+}
+
+Navigator &Navigator::shared()
+{
+    static Navigator *navigator = new Navigator;
+    return *navigator;
+}
+
+Navigator *Navigator::create(QQmlEngine *, QJSEngine *)
+{
+    QJSEngine::setObjectOwnership(&shared(), QJSEngine::CppOwnership);
+    return &shared();
+}
+
+QString Navigator::pageFor(const QString &identifier) const
+{
+    const QString page = m_pages.value(identifier);
+    return page.isEmpty() ? page : u"qrc:/qt/qml/Larkwells/"_s + page;
+}
+
+QStringList Navigator::segues() const
+{
+    QStringList identifiers = m_pages.keys();
+    identifiers.sort();
+    return identifiers;
+}
+
+void Navigator::popToRoot()
+{
+    Q_EMIT popToRootRequested();
+}
+
+void Navigator::performSegue(const QString &identifier)
+{
+    const QString page = pageFor(identifier);
+    if (page.isEmpty())
+        fatalError(u"Fatal error: no screen for the segue \"%1\""_s.arg(identifier));
+    Q_EMIT segueRequested(identifier, page);
+}
+
+void Navigator::unwind(const QString &identifier)
+{
+    Q_EMIT unwindRequested(identifier);
+}

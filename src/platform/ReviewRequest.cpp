@@ -1,0 +1,6 @@
+#include "ReviewRequest.h"
+
+bool ReviewRequest::requestInFirstWindowScene()
+{
+    return false;
+}

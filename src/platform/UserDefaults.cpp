@@ -1,0 +1,220 @@
+#include "UserDefaults.h"
+
+#include "FatalError.h"
+#include "Log.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+std::unique_ptr<UserDefaults> &standardStore()
+{
+    static std::unique_ptr<UserDefaults> store;
+    return store;
+}
+
+QString fileIn(const QString &directory)
+{
+    return QDir(directory).filePath(u"UserDefaults.json"_s);
+}
+
+QString typeName(QMetaType::Type type)
+{
+    switch (type) {
+    case QMetaType::Bool: return u"bool"_s;
+    case QMetaType::LongLong: return u"integer"_s;
+    case QMetaType::Double: return u"double"_s;
+    default: return u"string"_s;
+    }
+}
+
+QString wrongType(const QString &key, const char *wanted)
+{
+    return u"Fatal error: the setting \"%1\" holds a value that is not %2"_s.arg(key, QLatin1String(wanted));
+}
+}
+
+UserDefaults &UserDefaults::standard()
+{
+    if (!standardStore())
+        setStandardDirectory(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return *standardStore();
+}
+
+void UserDefaults::setStandardDirectory(const QString &directory)
+{
+    QDir().mkpath(directory);
+    standardStore() = std::make_unique<UserDefaults>(fileIn(directory));
+}
+
+UserDefaults::UserDefaults(QString filePath)
+    : m_filePath(std::move(filePath))
+{
+    load();
+}
+
+void UserDefaults::load()
+{
+    QFile file(m_filePath);
+    if (!file.exists())
+        return;
+    QJsonParseError error;
+    const QJsonDocument document = file.open(QIODevice::ReadOnly)
+        ? QJsonDocument::fromJson(file.readAll(), &error) : QJsonDocument();
+    if (!document.isObject()) {
+        // Keep the damaged file for inspection rather than overwriting it.
+        const QString aside = m_filePath + u".damaged"_s;
+        QFile::remove(aside);
+        file.close();
+        QFile::rename(m_filePath, aside);
+        Log::line(u"Preferences file unreadable, kept as "_s + aside);
+        return;
+    }
+    const QJsonObject root = document.object();
+    for (auto it = root.begin(); it != root.end(); ++it) {
+        const QJsonObject entry = it.value().toObject();
+        const QString type = entry.value(u"type"_s).toString();
+        const QJsonValue value = entry.value(u"value"_s);
+        if (type == u"bool"_s && value.isBool())
+            m_values.insert(it.key(), value.toBool());
+        else if (type == u"integer"_s && value.isDouble())
+            m_values.insert(it.key(), qint64(value.toInteger()));
+        else if (type == u"double"_s && value.isDouble())
+            m_values.insert(it.key(), value.toDouble());
+        else if (type == u"string"_s && value.isString())
+            m_values.insert(it.key(), value.toString());
+        else
+            Log::line(u"Preferences: ignored malformed entry "_s + it.key());
+    }
+}
+
+void UserDefaults::write() const
+{
+    QJsonObject root;
+    for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+        const auto type = QMetaType::Type(it.value().typeId());
+        root.insert(it.key(), QJsonObject{{u"type"_s, typeName(type)},
+                                          {u"value"_s, QJsonValue::fromVariant(it.value())}});
+    }
+    QSaveFile file(m_filePath);
+    if (!file.open(QIODevice::WriteOnly)
+        || file.write(QJsonDocument(root).toJson(QJsonDocument::Indented)) < 0 || !file.commit())
+        fatalError(u"Fatal error: cannot write the preferences file "_s + m_filePath + u": "_s + file.errorString());
+}
+
+QVariant UserDefaults::normalized(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::Int: case QMetaType::UInt: case QMetaType::LongLong: case QMetaType::ULongLong:
+    case QMetaType::Short: case QMetaType::UShort: case QMetaType::Long: case QMetaType::ULong:
+        return value.toLongLong();
+    case QMetaType::Double: case QMetaType::Float:
+        return value.toDouble();
+    case QMetaType::QString:
+        return value.toString();
+    default:
+        fatalError(u"Fatal error: a preference value must be a bool, a number or a string"_s);
+    }
+}
+
+QVariant UserDefaults::object(const QString &key) const
+{
+    return m_values.value(key);
+}
+
+std::optional<UserDefaults::Type> UserDefaults::typeOf(const QString &key) const
+{
+    const auto it = m_values.constFind(key);
+    if (it == m_values.constEnd())
+        return std::nullopt;
+    switch (it->typeId()) {
+    case QMetaType::Bool: return Type::Bool;
+    case QMetaType::LongLong: return Type::Integer;
+    case QMetaType::Double: return Type::Double;
+    default: return Type::String;
+    }
+}
+
+bool UserDefaults::boolForKey(const QString &key) const
+{
+    const QVariant value = object(key);
+    if (value.typeId() == QMetaType::QString)
+        return value.toString() == u"true"_s || value.toString() == u"YES"_s || value.toString().toLongLong() != 0;
+    return value.isValid() && value.toDouble() != 0;
+}
+
+qint64 UserDefaults::integerForKey(const QString &key) const
+{
+    const QVariant value = object(key);
+    return value.typeId() == QMetaType::Double ? qint64(value.toDouble()) : value.toLongLong();
+}
+
+double UserDefaults::doubleForKey(const QString &key) const
+{
+    return object(key).toDouble();
+}
+
+std::optional<QString> UserDefaults::stringForKey(const QString &key) const
+{
+    const QVariant value = object(key);
+    if (!value.isValid() || value.typeId() == QMetaType::Bool)
+        return std::nullopt;
+    return value.toString();
+}
+
+void UserDefaults::set(const QString &key, const QVariant &value)
+{
+    setValues({{key, value}});
+}
+
+void UserDefaults::setValues(const QList<std::pair<QString, QVariant>> &values)
+{
+    for (const auto &[key, value] : values)
+        m_values.insert(key, normalized(value));
+    write();
+}
+
+void UserDefaults::removeObject(const QString &key)
+{
+    if (m_values.remove(key))
+        write();
+}
+
+std::optional<qint64> Preferences::integerIfPresent(const QString &key)
+{
+    const auto type = UserDefaults::standard().typeOf(key);
+    if (!type)
+        return std::nullopt;
+    if (*type != UserDefaults::Type::Integer)
+        fatalError(wrongType(key, "an integer"));
+    return UserDefaults::standard().integerForKey(key);
+}
+
+std::optional<double> Preferences::doubleIfPresent(const QString &key)
+{
+    const auto type = UserDefaults::standard().typeOf(key);
+    if (!type)
+        return std::nullopt;
+    if (*type != UserDefaults::Type::Double && *type != UserDefaults::Type::Integer)
+        fatalError(wrongType(key, "a number"));
+    return UserDefaults::standard().doubleForKey(key);
+}
+
+std::optional<QString> Preferences::stringIfPresent(const QString &key)
+{
+    const auto type = UserDefaults::standard().typeOf(key);
+    if (!type)
+        return std::nullopt;
+    if (*type != UserDefaults::Type::String)
+        fatalError(wrongType(key, "a string"));
+    return UserDefaults::standard().stringForKey(key);
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+#include <optional>
+
+// The user's preferences: a flat, typed key-value store kept in one JSON file
+// ({"key": {"type": "bool" | "integer" | "double" | "string", "value": ...}}).
+// Every write is durable when it returns (the file is replaced atomically).
+class UserDefaults
+{
+public:
+    enum class Type { Bool, Integer, Double, String };
+
+    // The store every screen uses; its file lives in the application's data folder.
+    static UserDefaults &standard();
+    // Points the standard store at another folder (command line, tests) and reloads it.
+    static void setStandardDirectory(const QString &directory);
+
+    explicit UserDefaults(QString filePath);
+
+    // The stored value with its type (bool, qint64, double or QString); invalid when absent.
+    QVariant object(const QString &key) const;
+    bool contains(const QString &key) const { return m_values.contains(key); }
+    std::optional<Type> typeOf(const QString &key) const;
+
+    // Platform-style readers: absent reads as false / 0 / 0.0 / none.
+    bool boolForKey(const QString &key) const;
+    qint64 integerForKey(const QString &key) const;
+    double doubleForKey(const QString &key) const;
+    std::optional<QString> stringForKey(const QString &key) const;
+
+    // Stores a bool, an integer (any integral type), a double or a string.
+    void set(const QString &key, const QVariant &value);
+    // Stores several values with one durable write.
+    void setValues(const QList<std::pair<QString, QVariant>> &values);
+    void removeObject(const QString &key);
+    // Every write is already durable; kept so callers read like the platform they mirror.
+    bool synchronize() { return true; }
+
+    QString filePath() const { return m_filePath; }
+
+private:
+    void load();
+    void write() const;
+    static QVariant normalized(const QVariant &value);
+
+    QString m_filePath;
+    QHash<QString, QVariant> m_values;
+};
+
+// Typed reads of settings: a present value of the wrong type is a fatal error, an absent one
+// gives the default. Integers count as reals (the settings screen stores whole sizes).
+namespace Preferences {
+std::optional<qint64> integerIfPresent(const QString &key);
+std::optional<double> doubleIfPresent(const QString &key);
+std::optional<QString> stringIfPresent(const QString &key);
+}

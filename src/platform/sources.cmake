@@ -1,0 +1,14 @@
+# Sources of this subsystem, relative to src/.
+list(APPEND LARKWELLS_SOURCES
+    platform/Alerts.h platform/Alerts.cpp
+    platform/Bundle.h platform/Bundle.cpp
+    platform/Device.h platform/Device.cpp
+    platform/FatalError.h platform/FatalError.cpp
+    platform/Log.h platform/Log.cpp
+    platform/Navigator.h platform/Navigator.cpp
+    platform/ReviewRequest.h platform/ReviewRequest.cpp
+    platform/UserDefaults.h platform/UserDefaults.cpp
+)
+list(APPEND LARKWELLS_QML
+    platform/AlertDialog.qml
+)

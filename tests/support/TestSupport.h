@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+// A throw-away data folder for one test: its own preferences and store, log lines collected,
+// fatal stops thrown as FatalErrorException. Optionally a bundle folder of the test's own.
+class TestEnvironment
+{
+public:
+    TestEnvironment();
+    ~TestEnvironment();
+
+    QString dataDirectory() const { return m_data.path(); }
+    // Writes a file into a private bundle folder and makes that folder the bundle.
+    void addBundleFile(const QString &name, const QByteArray &bytes);
+    // The repository's own resources folder.
+    static QString sourceResources();
+
+    QStringList logLines;
+
+private:
+    QTemporaryDir m_data;
+    QTemporaryDir m_bundle;
+};
+
+// Makes the Larkwells QML module available to engines in the test.
+void importLarkwellsModule();
