@@ -91,7 +91,7 @@ int main(int argc, char *argv[])
     engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
-    if (testing)
-        return selfTestRun.exec(engine);
-    return QGuiApplication::exec();
+    const int status = testing ? selfTestRun.exec(engine) : QGuiApplication::exec();
+    AppDelegate::shared().reset(); // close the store while the database driver still exists
+    return status;
 }

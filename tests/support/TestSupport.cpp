@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QQmlExtensionPlugin>
+#include <QQuickItem>
 
 Q_IMPORT_QML_PLUGIN(LarkwellsPlugin)
 
@@ -47,4 +48,17 @@ void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes
 QString TestEnvironment::sourceResources()
 {
     return qEnvironmentVariable("LARKWELLS_SOURCE_DIR") + QStringLiteral("/resources");
+}
+
+QQuickItem *findItem(QQuickItem *root, const QString &objectName)
+{
+    if (!root)
+        return nullptr;
+    if (root->objectName() == objectName)
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = findItem(child, objectName))
+            return found;
+    }
+    return nullptr;
 }

@@ -26,3 +26,7 @@ private:
 
 // Makes the Larkwells QML module available to engines in the test.
 void importLarkwellsModule();
+
+class QQuickItem;
+// The first item with this object name in the visual tree below `root` (depth first).
+QQuickItem *findItem(QQuickItem *root, const QString &objectName);

@@ -1,0 +1,2 @@
+#include "Art.h"
+namespace Art { bool writeBands(const QString &) { return true; } }

@@ -1,0 +1,2 @@
+#include "Art.h"
+namespace Art { bool writePapers(const QString &) { return true; } }

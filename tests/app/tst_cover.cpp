@@ -1,0 +1,113 @@
+#include "Alerts.h"
+#include "CoverViewController.h"
+#include "ReviewPrompt.h"
+#include "Selection.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestCover : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
+    void controlButtonFlipsTheMenu();
+    void appearingClearsTheListChoice();
+    void reviewPromptCountsPageOpenings_data();
+    void reviewPromptCountsPageOpenings();
+    void coverPageOpensAndClosesItsMenu();
+};
+
+void TestCover::controlButtonFlipsTheMenu()
+{
+    TestEnvironment environment;
+    CoverViewController cover;
+    QVERIFY(!cover.menuOpen());
+    cover.HandleSelection();
+    QVERIFY(cover.menuOpen());
+    QVERIFY(cover.ImportExportButtonHidden());
+    cover.HandleSelection();
+    QVERIFY(!cover.menuOpen());
+    QVERIFY(cover.ImportExportButtonHidden());
+    cover.viewWillDisappear(); // closed stays closed
+    QVERIFY(!cover.menuOpen());
+    cover.HandleSelection();
+    cover.viewWillDisappear(); // leaving closes an open menu
+    QVERIFY(!cover.menuOpen());
+}
+
+void TestCover::appearingClearsTheListChoice()
+{
+    TestEnvironment environment;
+    Selection::shared().setSelectedList(u"FAV"_s);
+    CoverViewController cover;
+    cover.viewWillAppear();
+    QCOMPARE(Selection::shared().selectedList(), QString());
+}
+
+void TestCover::reviewPromptCountsPageOpenings_data()
+{
+    QTest::addColumn<QStringList>("versions"); // the version at each page opening ("-" for none)
+    QTest::addColumn<QList<qint64>>("counts"); // the counter after each opening
+    QTest::addColumn<QString>("lastVersion");  // "-" when absent at the end
+    QTest::newRow("third opening asks, later ones in the same version do not")
+        << QStringList{u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s}
+        << QList<qint64>{1, 2, 0, 1, 2, 3} << u"1.0"_s;
+    QTest::newRow("a new version asks again after three more")
+        << QStringList{u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.1"_s, u"1.1"_s, u"1.1"_s}
+        << QList<qint64>{1, 2, 0, 1, 2, 0} << u"1.1"_s;
+    QTest::newRow("no version: asks every third time and stores none")
+        << QStringList{u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-"_s}
+        << QList<qint64>{1, 2, 0, 1, 2, 0} << u"-"_s;
+}
+
+void TestCover::reviewPromptCountsPageOpenings()
+{
+    QFETCH(QStringList, versions);
+    QFETCH(QList<qint64>, counts);
+    QFETCH(QString, lastVersion);
+    TestEnvironment environment;
+    for (qsizetype i = 0; i < versions.size(); ++i) {
+        ReviewPrompt::run(versions[i] == u"-"_s ? std::nullopt : std::optional(versions[i]));
+        QCOMPARE(UserDefaults::standard().integerForKey(u"reviewWorthyActionCount"_s), counts[i]);
+    }
+    QCOMPARE(UserDefaults::standard().stringForKey(u"lastReviewRequestAppVersion"_s).value_or(u"-"_s), lastVersion);
+}
+
+void TestCover::coverPageOpensAndClosesItsMenu()
+{
+    TestEnvironment environment;
+    importLarkwellsModule();
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    QCOMPARE(engine.rootObjects().size(), 1);
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().first());
+    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QTRY_VERIFY(Alerts::shared().showing()); // the first-launch advice
+    Alerts::shared().dismiss(0);
+
+    auto *control = findItem(window->contentItem(), u"ControlButton"_s);
+    auto *today = findItem(window->contentItem(), u"TodayButton"_s);
+    auto *importExport = findItem(window->contentItem(), u"ImportExportButton"_s);
+    QVERIFY(control && today && importExport);
+    QVERIFY(!today->isVisible());
+    const QPointF centre = control->mapToScene(QPointF(control->width() / 2, control->height() / 2));
+    for (const bool open : {true, false, true}) {
+        QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+        QTRY_COMPARE(today->isVisible(), open);
+        QTRY_COMPARE(today->height() > 40, open); // the 0.3 s slide has run
+        QVERIFY(!importExport->isVisible());
+    }
+}
+
+QTEST_MAIN(TestCover)
+#include "tst_cover.moc"

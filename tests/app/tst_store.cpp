@@ -1,0 +1,211 @@
+#include "AppDelegate.h"
+#include "Entities.h"
+#include "FatalError.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+PoemPrayer *addPage(ManagedObjectContext &context, const QString &dt, const QString &ampm, qint16 month, qint16 day,
+                    const QString &favorite = u"F"_s)
+{
+    PoemPrayer *page = context.insertNewObject<PoemPrayer>();
+    page->setDt(dt);
+    page->setAmpm(ampm);
+    page->setMonth(month);
+    page->setDay(day);
+    page->setFavorite(favorite);
+    return page;
+}
+
+QStringList datesOf(const QList<PoemPrayer *> &pages)
+{
+    QStringList dates;
+    for (const PoemPrayer *page : pages)
+        dates.append(page->dt().value_or(u"-"_s) + u' ' + page->ampm().value_or(u"-"_s));
+    return dates;
+}
+}
+
+class TestStore : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fetchesFilterAndSort_data();
+    void fetchesFilterAndSort();
+    void unsavedChangesCount();
+    void identityMapGivesOneObjectPerRow();
+    void saveWritesOneTransactionAndSchema();
+    void unsetValuesReadAsAbsentOrZero();
+    void saveContextOnlyWhenChanged();
+    void unopenableStoreIsFatal();
+};
+
+void TestStore::fetchesFilterAndSort_data()
+{
+    QTest::addColumn<Predicate>("predicate");
+    QTest::addColumn<QList<SortDescriptor>>("sort");
+    QTest::addColumn<QStringList>("expected");
+
+    const QList<SortDescriptor> calendar{{u"month"_s}, {u"day"_s}, {u"ampm"_s}};
+    QTest::newRow("day by decimal text, night after morning")
+        << Predicate::conjunction({Predicate::equals(u"month"_s, u"1"_s), Predicate::equals(u"day"_s, u"2"_s)})
+        << QList<SortDescriptor>{{u"ampm"_s}, {u"day"_s}} << QStringList{u"Jan 2 AM"_s, u"Jan 2 PM"_s};
+    QTest::newRow("text that is no number matches nothing")
+        << Predicate::equals(u"month"_s, u"one"_s) << calendar << QStringList();
+    QTest::newRow("all pages in calendar order")
+        << Predicate::disjunction({Predicate::equals(u"ampm"_s, u"AM"_s), Predicate::equals(u"ampm"_s, u"PM"_s)})
+        << calendar << QStringList{u"Jan 2 AM"_s, u"Jan 2 PM"_s, u"Feb 1 AM"_s, u"Dec 31 PM"_s};
+    QTest::newRow("favourites; lower-case am is neither AM nor PM")
+        << Predicate::equals(u"favorite"_s, u"T"_s) << calendar << QStringList{u"Jan 2 PM"_s, u"Mar 3 am"_s};
+    QTest::newRow("descending") << Predicate::equals(u"ampm"_s, u"PM"_s) << QList<SortDescriptor>{{u"month"_s, false}}
+                                << QStringList{u"Dec 31 PM"_s, u"Jan 2 PM"_s};
+}
+
+void TestStore::fetchesFilterAndSort()
+{
+    QFETCH(Predicate, predicate);
+    QFETCH(QList<SortDescriptor>, sort);
+    QFETCH(QStringList, expected);
+    TestEnvironment environment;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    addPage(context, u"Dec 31"_s, u"PM"_s, 12, 31);
+    addPage(context, u"Jan 2"_s, u"PM"_s, 1, 2, u"T"_s);
+    addPage(context, u"Feb 1"_s, u"AM"_s, 2, 1);
+    addPage(context, u"Jan 2"_s, u"AM"_s, 1, 2);
+    addPage(context, u"Mar 3"_s, u"am"_s, 3, 3, u"T"_s);
+    QVERIFY(!context.save());
+
+    FetchRequest request = PoemPrayer::fetchRequest();
+    request.predicate = predicate;
+    request.sortDescriptors = sort;
+    QCOMPARE(datesOf(context.fetch<PoemPrayer>(request)), expected);
+    // A second context on the same store sees the same rows.
+    const auto other = loadedContainer();
+    QCOMPARE(datesOf(other->viewContext().fetch<PoemPrayer>(request)), expected);
+}
+
+void TestStore::unsavedChangesCount()
+{
+    TestEnvironment environment;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    PoemPrayer *saved = addPage(context, u"Jan 1"_s, u"AM"_s, 1, 1);
+    addPage(context, u"Jan 3"_s, u"AM"_s, 1, 3);
+    QVERIFY(!context.save());
+    addPage(context, u"Jan 2"_s, u"AM"_s, 1, 2);
+    saved->setDay(4);
+    FetchRequest request = PoemPrayer::fetchRequest();
+    request.sortDescriptors = {{u"day"_s}};
+    QCOMPARE(datesOf(context.fetch<PoemPrayer>(request)), (QStringList{u"Jan 2 AM"_s, u"Jan 3 AM"_s, u"Jan 1 AM"_s}));
+    request.predicate = Predicate::equals(u"day"_s, 1);
+    QCOMPARE(context.fetch<PoemPrayer>(request).size(), 0);
+    context.deleteObject(saved);
+    request.predicate.reset();
+    QCOMPARE(context.fetch<PoemPrayer>(request).size(), 2);
+    QVERIFY(context.hasChanges());
+    QVERIFY(!context.save());
+    QVERIFY(!context.hasChanges());
+    QCOMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(request).size(), 2);
+}
+
+void TestStore::identityMapGivesOneObjectPerRow()
+{
+    TestEnvironment environment;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    PoemPrayer *page = addPage(context, u"Jan 1"_s, u"AM"_s, 1, 1);
+    QVERIFY(!context.save());
+    const QList<PoemPrayer *> first = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
+    const QList<PoemPrayer *> second = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
+    QCOMPARE(first.size(), 1);
+    QCOMPARE(first.first(), page);
+    QCOMPARE(second.first(), page);
+    // A change saved elsewhere shows in a fetched object that has no changes of its own.
+    const auto other = loadedContainer();
+    other->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).first()->setFavorite(u"T"_s);
+    QVERIFY(!other->viewContext().save());
+    QCOMPARE(context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).first()->favorite(), u"T"_s);
+}
+
+void TestStore::saveWritesOneTransactionAndSchema()
+{
+    TestEnvironment environment;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    Notes *note = context.insertNewObject<Notes>();
+    note->setDt(QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC));
+    note->setSubject(u"s"_s);
+    context.insertNewObject<About>()->setName(u"Good Morning Preface"_s);
+    context.insertNewObject<SpecialDay>()->setDayname(u"Easter Day"_s);
+    QVERIFY(!context.save());
+
+    QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"inspect"_s);
+    db.setDatabaseName(QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s));
+    QVERIFY(db.open());
+    {
+        QSqlQuery query(db);
+        QVERIFY(query.exec(u"SELECT dt, subject, notes FROM Notes"_s) && query.next());
+        QCOMPARE(query.value(0).toString(), u"2026-03-04T05:06:07Z"_s);
+        QCOMPARE(query.value(1).toString(), u"s"_s);
+        QVERIFY(query.value(2).isNull());
+        QVERIFY(query.exec(u"SELECT name FROM About"_s) && query.next());
+        QVERIFY(query.exec(u"SELECT dayname FROM SpecialDay"_s) && query.next());
+        QVERIFY(query.exec(u"PRAGMA journal_mode"_s) && query.next());
+        QCOMPARE(query.value(0).toString(), u"wal"_s);
+        QVERIFY(query.exec(u"SELECT id, ampm, day, dt, favorite, month, pagenum, poemprayer FROM PoemPrayer"_s));
+    }
+    db.close();
+    db = QSqlDatabase();
+    QSqlDatabase::removeDatabase(u"inspect"_s);
+}
+
+void TestStore::unsetValuesReadAsAbsentOrZero()
+{
+    TestEnvironment environment;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    context.insertNewObject<PoemPrayer>()->setDt(u"x"_s);
+    QVERIFY(!context.save());
+    const auto other = loadedContainer();
+    const PoemPrayer *page = other->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).first();
+    QCOMPARE(page->month(), qint16(0));
+    QVERIFY(!page->favorite().has_value());
+    QVERIFY(!page->poemprayer().has_value());
+    QCOMPARE(page->dt(), u"x"_s);
+}
+
+void TestStore::saveContextOnlyWhenChanged()
+{
+    TestEnvironment environment;
+    AppDelegate &delegate = AppDelegate::shared();
+    ManagedObjectContext &context = delegate.viewContext();
+    QVERIFY(!context.hasChanges());
+    delegate.saveContext();
+    addPage(context, u"Jan 1"_s, u"AM"_s, 1, 1);
+    delegate.applicationWillTerminate();
+    QVERIFY(!context.hasChanges());
+    QCOMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 1);
+}
+
+void TestStore::unopenableStoreIsFatal()
+{
+    TestEnvironment environment;
+    QFile garbage(QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s));
+    QVERIFY(garbage.open(QIODevice::WriteOnly));
+    garbage.write(QByteArray(4096, 'x'));
+    garbage.close();
+    try {
+        AppDelegate::shared().viewContext();
+        QFAIL("a store that cannot be opened must stop the application");
+    } catch (const FatalErrorException &error) {
+        QVERIFY2(error.message().startsWith(u"Unresolved error "_s), qPrintable(error.message()));
+        QVERIFY2(error.message().contains(u", {"_s), qPrintable(error.message()));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestStore)
+#include "tst_store.moc"

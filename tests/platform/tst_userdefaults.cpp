@@ -1,0 +1,112 @@
+#include "FatalError.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestUserDefaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesKeepTheirTypeAcrossRestart_data();
+    void valuesKeepTheirTypeAcrossRestart();
+    void wrongTypeIsFatal_data();
+    void wrongTypeIsFatal();
+    void damagedFileIsKeptAside();
+};
+
+void TestUserDefaults::valuesKeepTheirTypeAcrossRestart_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QJsonValue>("json");
+    QTest::newRow("bool") << QVariant(true) << u"bool"_s << QJsonValue(true);
+    QTest::newRow("integer") << QVariant(17) << u"integer"_s << QJsonValue(17);
+    QTest::newRow("double") << QVariant(16.0) << u"double"_s << QJsonValue(16.0);
+    QTest::newRow("string") << QVariant(u"true"_s) << u"string"_s << QJsonValue(u"true"_s);
+}
+
+void TestUserDefaults::valuesKeepTheirTypeAcrossRestart()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, type);
+    QFETCH(QJsonValue, json);
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"key"_s, value);
+
+    // What another program reads from the file.
+    QFile file(QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject entry = QJsonDocument::fromJson(file.readAll()).object().value(u"key"_s).toObject();
+    QCOMPARE(entry.value(u"type"_s).toString(), type);
+    QCOMPARE(entry.value(u"value"_s), json);
+
+    // What the next start reads.
+    UserDefaults::setStandardDirectory(environment.dataDirectory());
+    const UserDefaults &reloaded = UserDefaults::standard();
+    QCOMPARE(reloaded.object(u"key"_s).typeId(), UserDefaults::standard().object(u"key"_s).typeId());
+    QCOMPARE(reloaded.object(u"key"_s).toString(), value.toString());
+    QVERIFY(!reloaded.object(u"absent"_s).isValid());
+    QCOMPARE(reloaded.integerForKey(u"absent"_s), 0);
+    QVERIFY(!reloaded.boolForKey(u"absent"_s));
+}
+
+void TestUserDefaults::wrongTypeIsFatal_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<int>("reader"); // 0 integer, 1 double, 2 string
+    QTest::addColumn<bool>("fatal");
+    QTest::newRow("string read as integer") << QVariant(u"1"_s) << 0 << true;
+    QTest::newRow("double read as integer") << QVariant(1.5) << 0 << true;
+    QTest::newRow("integer read as double") << QVariant(17) << 1 << false;
+    QTest::newRow("bool read as double") << QVariant(true) << 1 << true;
+    QTest::newRow("integer read as string") << QVariant(3) << 2 << true;
+    QTest::newRow("string read as string") << QVariant(u"Arial"_s) << 2 << false;
+}
+
+void TestUserDefaults::wrongTypeIsFatal()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(int, reader);
+    QFETCH(bool, fatal);
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"key"_s, stored);
+    bool stopped = false;
+    try {
+        if (reader == 0)
+            Preferences::integerIfPresent(u"key"_s);
+        else if (reader == 1)
+            Preferences::doubleIfPresent(u"key"_s);
+        else
+            Preferences::stringIfPresent(u"key"_s);
+    } catch (const FatalErrorException &) {
+        stopped = true;
+    }
+    QCOMPARE(stopped, fatal);
+    QVERIFY(!Preferences::integerIfPresent(u"absent"_s));
+}
+
+void TestUserDefaults::damagedFileIsKeptAside()
+{
+    TestEnvironment environment;
+    const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("{ not json");
+    file.close();
+    UserDefaults::setStandardDirectory(environment.dataDirectory());
+    QVERIFY(!UserDefaults::standard().contains(u"anything"_s));
+    QVERIFY(QFile::exists(path + u".damaged"_s));
+    UserDefaults::standard().set(u"x"_s, 1);
+    QCOMPARE(UserDefaults(path).integerForKey(u"x"_s), 1);
+}
+
+QTEST_GUILESS_MAIN(TestUserDefaults)
+#include "tst_userdefaults.moc"
