@@ -3,6 +3,8 @@
 set(LARKWELLS_BUNDLE_DIR ${CMAKE_CURRENT_LIST_DIR})
 set(LARKWELLS_BUNDLE_FILES
     ${LARKWELLS_BUNDLE_DIR}/Book.txt
+    ${LARKWELLS_BUNDLE_DIR}/SpecialDays.txt
+    ${LARKWELLS_BUNDLE_DIR}/About.txt
     ${LARKWELLS_BUNDLE_DIR}/icon/larkwells.svg
 )
 
@@ -23,6 +25,7 @@ add_custom_command(
     DEPENDS larkwells_art
     COMMENT "Drawing the wallpapers and the cover"
     VERBATIM)
+add_custom_target(larkwells_pictures DEPENDS ${LARKWELLS_PICTURES})
 list(APPEND LARKWELLS_BUNDLE_FILES ${LARKWELLS_PICTURES})
 
 foreach(file IN LISTS LARKWELLS_BUNDLE_FILES)

@@ -13,7 +13,7 @@ packages=(
   qml6-module-qtquick-templates qml6-module-qtquick-layouts qml6-module-qtquick-dialogs
   qml6-module-qtquick-shapes qml6-module-qtqml-models qml6-module-qttest qml6-module-qtcore
   # fonts: a metric-compatible "Arial" and a few reading families
-  fontconfig fonts-liberation2 fonts-dejavu-core fonts-ebgaramond fonts-linuxlibertine fonts-sil-charis
+  fontconfig libfontconfig-dev fonts-liberation2 fonts-dejavu-core fonts-ebgaramond fonts-linuxlibertine fonts-sil-charis
   # desktop services, a real window without a display, benchmarks
   xdg-utils xvfb xauth libbenchmark-dev
 )

@@ -10,6 +10,7 @@
 #include <QQmlApplicationEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickStyle>
+#include <QQuickWindow>
 #include <QSocketNotifier>
 #include <QStandardPaths>
 #include <csignal>
@@ -91,6 +92,10 @@ int main(int argc, char *argv[])
     engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
+    // For the launch benchmarks (bench/): quit normally once the first frame is on screen.
+    if (auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+        window && qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
+        QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QGuiApplication::quit, Qt::QueuedConnection);
     const int status = testing ? selfTestRun.exec(engine) : QGuiApplication::exec();
     AppDelegate::shared().reset(); // close the store while the database driver still exists
     return status;

@@ -1,9 +1,8 @@
 #include "Art.h"
 
-#include <QFile>
 #include <QFont>
-#include <QFontMetricsF>
 #include <QSaveFile>
+#include <QTransform>
 
 namespace Art {
 
@@ -197,38 +196,52 @@ bool writeFile(const QString &path, const QByteArray &bytes)
 
 QPainterPath lark()
 {
-    QPainterPath p;
-    // Body, crest, forked tail.
-    p.moveTo(174, 70);
-    p.lineTo(161, 64);
-    p.cubicTo(158, 58, 152, 55, 146, 53);
-    p.lineTo(139, 48);
-    p.cubicTo(141, 54, 141, 58, 139, 62);
-    p.cubicTo(128, 70, 117, 79, 106, 87);
-    p.cubicTo(93, 96, 80, 105, 68, 112);
-    p.lineTo(40, 121);
-    p.lineTo(51, 127);
-    p.lineTo(39, 135);
-    p.cubicTo(60, 133, 80, 129, 97, 123);
-    p.cubicTo(120, 115, 139, 101, 151, 88);
-    p.cubicTo(158, 80, 164, 74, 174, 70);
-    p.closeSubpath();
-    // Near wing, raised high, with a stepped trailing edge of flight feathers.
-    p.moveTo(120, 88);
-    p.cubicTo(112, 64, 94, 36, 58, 8);
-    p.cubicTo(66, 22, 72, 30, 78, 38);
-    p.lineTo(72, 37);
-    p.cubicTo(80, 48, 86, 56, 91, 62);
-    p.lineTo(85, 61);
-    p.cubicTo(94, 72, 100, 82, 104, 92);
-    p.closeSubpath();
-    // Far wing, shorter, over the back.
-    p.moveTo(128, 80);
-    p.cubicTo(132, 60, 140, 40, 156, 22);
-    p.cubicTo(154, 42, 148, 62, 138, 82);
-    p.closeSubpath();
-    p.setFillRule(Qt::WindingFill);
-    return p;
+    QPainterPath body;
+    body.addEllipse(QPointF(0, 0), 46, 17);
+    QPainterPath bird = body * QTransform().translate(110, 92).rotate(-28);
+    QPainterPath head;
+    head.addEllipse(QPointF(150, 66), 13, 12);
+    bird = bird.united(head);
+    QPainterPath parts;
+    parts.moveTo(159, 60); // beak
+    parts.lineTo(174, 64);
+    parts.lineTo(160, 70);
+    parts.closeSubpath();
+    parts.moveTo(143, 58); // crest
+    parts.lineTo(131, 43);
+    parts.lineTo(151, 55);
+    parts.closeSubpath();
+    parts.moveTo(80, 103); // tail, spread and slightly notched
+    parts.lineTo(40, 118);
+    parts.lineTo(50, 127);
+    parts.lineTo(42, 138);
+    parts.lineTo(86, 117);
+    parts.closeSubpath();
+    // Near wing: broad, raised, its trailing edge in rounded flight feathers.
+    parts.moveTo(130, 82);
+    parts.cubicTo(126, 52, 102, 24, 64, 6);
+    const QList<QPointF> trailing = {{70, 30}, {78, 47}, {88, 63}, {100, 80}, {104, 96}};
+    QPointF last(64, 6);
+    for (const QPointF &pt : trailing) {
+        const QPointF mid = (last + pt) / 2;
+        const QPointF out(-(pt.y() - last.y()) * 0.28, (pt.x() - last.x()) * 0.28);
+        parts.quadTo(mid + out, pt);
+        last = pt;
+    }
+    parts.closeSubpath();
+    // Far wing, foreshortened behind the head.
+    parts.moveTo(122, 78);
+    parts.cubicTo(124, 52, 134, 30, 150, 14);
+    parts.cubicTo(160, 30, 154, 58, 142, 80);
+    parts.closeSubpath();
+    parts.setFillRule(Qt::WindingFill);
+    for (const QPolygonF &poly : parts.toSubpathPolygons()) {
+        QPainterPath piece;
+        piece.addPolygon(poly);
+        piece.closeSubpath();
+        bird = bird.united(piece);
+    }
+    return bird.simplified();
 }
 
 } // namespace Art

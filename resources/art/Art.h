@@ -85,9 +85,12 @@ bool writeFile(const QString &path, const QByteArray &bytes);
 
 // The three families of pictures and the icon rasters, each written into `directory`.
 bool writePapers(const QString &directory);  // Page1 … Page35
+QImage paper(int index);                     // one of them, index 0 … 34
 bool writeBands(const QString &directory);   // AM-36 … AM-70
 bool writeCover(const QString &directory);   // Cover
 bool writeIcons(const QString &svgFile, const QString &directory, const QList<int> &sizes);
+// A picture file scaled to fill `size`, cropped about its centre, as the app shows it.
+QImage renderFilled(const QString &file, QSize size);
 bool writeContactSheet(const QString &bundleDirectory, const QString &outFile);
 
 // The skylark, wings raised, facing right, in a 200 × 200 box; shared by cover and bands.

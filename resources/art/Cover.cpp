@@ -119,14 +119,14 @@ bool writeCover(const QString &directory)
     // Sky: deep night at the top to a warm dawn at the horizon.
     const QString sky = svg.linearGradient(
         QStringLiteral("sky"), 0, 0, 0, horizon,
-        {{0, edge}, {0.3, QColor(0x1c, 0x2f, 0x55)}, {0.52, QColor(0x3b, 0x4b, 0x7c)},
-         {0.7, QColor(0x83, 0x72, 0x98)}, {0.83, QColor(0xd6, 0x9a, 0x8c)},
-         {0.93, QColor(0xf2, 0xc2, 0x93)}, {1, QColor(0xfb, 0xe2, 0xae)}});
+        {{0, edge}, {0.3, QColor(0x1c, 0x2f, 0x55)}, {0.55, QColor(0x3a, 0x49, 0x78)},
+         {0.78, QColor(0x74, 0x68, 0x92)}, {1, QColor(0xb4, 0x88, 0x9a)}});
     svg.add(QStringLiteral("<rect width=\"%1\" height=\"%2\" fill=\"%3\"/>\n").arg(num(W), num(H), sky));
     const QString glow = svg.radialGradient(
-        QStringLiteral("glow"), 640, horizon + 20, 620,
-        {{0, withAlpha(QColor(0xff, 0xf1, 0xc8), 0.85)}, {0.3, withAlpha(QColor(0xfb, 0xcf, 0x98), 0.45)},
-         {1, withAlpha(QColor(0xf0, 0xa0, 0x90), 0)}});
+        QStringLiteral("glow"), 640, horizon + 20, 760,
+        {{0, withAlpha(QColor(0xff, 0xf3, 0xcc), 1)}, {0.18, withAlpha(QColor(0xfc, 0xda, 0xa4), 0.9)},
+         {0.45, withAlpha(QColor(0xf0, 0xa8, 0x90), 0.55)}, {0.75, withAlpha(QColor(0xb0, 0x84, 0xa0), 0.18)},
+         {1, withAlpha(QColor(0xb0, 0x84, 0xa0), 0)}});
     svg.add(QStringLiteral("<rect width=\"%1\" height=\"%2\" fill=\"%3\"/>\n").arg(num(W), num(horizon + 40), glow));
 
     // Stars, thinning as the sky brightens.
@@ -141,7 +141,7 @@ bool writeCover(const QString &directory)
                          QString::number(fade * r.range(0.35, 0.95), 'f', 2)));
     }
     // A few bright stars with four long points; the morning star the brightest.
-    const QList<QPointF> bright = {{212, 612}, {1000, 360}, {470, 120}, {880, 190}, {130, 150}};
+    const QList<QPointF> bright = {{262, 622}, {960, 360}, {470, 120}, {880, 190}, {130, 150}};
     for (qsizetype i = 0; i < bright.size(); ++i) {
         const double s = i == 0 ? 30 : r.range(12, 18);
         const QPointF c = bright[i];
@@ -210,7 +210,7 @@ bool writeCover(const QString &directory)
                                               {{0, QColor(0x3c, 0x45, 0x6c)}, {1, QColor(0x24, 0x31, 0x52)}})));
     const double wellX = 352;
     const double wellY = ridgeY(mid, wellX) + 14;
-    svg.add(fillPath(well() * QTransform::fromScale(0.82, 0.82).translate(wellX / 0.82, wellY / 0.82),
+    svg.add(fillPath(well() * QTransform::fromScale(0.95, 0.95).translate(wellX / 0.95, wellY / 0.95),
                      QStringLiteral("#222c4a")));
     const QPainterPath near = ridge(37, horizon + 190, 40, 1.2);
     svg.add(fillPath(near, svg.linearGradient(QStringLiteral("near"), 0, horizon + 140, 0, H,
@@ -243,18 +243,22 @@ bool writeCover(const QString &directory)
     // Two larks: one rising close by, one far up.
     {
         const QPainterPath bird = lark();
-        svg.add(fillPath(bird * QTransform(1.35, 0, 0, 1.35, 770, 760).rotate(-8), QStringLiteral("#1d2440")));
+        svg.add(fillPath(bird * QTransform(1.35, 0, 0, 1.35, 735, 760).rotate(-8), QStringLiteral("#1d2440")));
         svg.add(fillPath(bird * QTransform(0.42, 0, 0, 0.42, 560, 560), QStringLiteral("#2a3050"), 0.85));
     }
 
     // Side shading into the background colour, so the cover sits in a wider window seamlessly.
-    svg.add(QStringLiteral("<rect width=\"170\" height=\"%1\" fill=\"%2\"/>\n")
-                .arg(num(H), svg.linearGradient(QStringLiteral("left"), 0, 0, 170, 0,
-                                                 {{0, withAlpha(edge, 0.9)}, {1, withAlpha(edge, 0)}})));
-    svg.add(QStringLiteral("<rect x=\"%1\" width=\"170\" height=\"%2\" fill=\"%3\"/>\n")
-                .arg(num(W - 170), num(H),
-                     svg.linearGradient(QStringLiteral("right"), W - 170, 0, W, 0,
-                                        {{0, withAlpha(edge, 0)}, {1, withAlpha(edge, 0.9)}})));
+    const double shade = 150;
+    svg.add(QStringLiteral("<rect width=\"%1\" height=\"%2\" fill=\"%3\"/>\n")
+                .arg(num(shade), num(H),
+                     svg.linearGradient(QStringLiteral("left"), 0, 0, shade, 0,
+                                        {{0, edge}, {0.12, withAlpha(edge, 0.75)},
+                                         {0.5, withAlpha(edge, 0.3)}, {1, withAlpha(edge, 0)}})));
+    svg.add(QStringLiteral("<rect x=\"%1\" width=\"%2\" height=\"%3\" fill=\"%4\"/>\n")
+                .arg(num(W - shade), num(shade), num(H),
+                     svg.linearGradient(QStringLiteral("right"), W - shade, 0, W, 0,
+                                        {{0, withAlpha(edge, 0)}, {0.5, withAlpha(edge, 0.3)},
+                                         {0.88, withAlpha(edge, 0.75)}, {1, edge}})));
 
     // The title, in the lower fifth, below where the menu reaches.
     const QString family = QStringLiteral("EB Garamond 12");

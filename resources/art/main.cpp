@@ -12,7 +12,8 @@ int usage()
     std::fprintf(stderr,
                  "usage: larkwells_art pictures DIR [papers|bands|cover]\n"
                  "       larkwells_art icons SVG DIR SIZE...\n"
-                 "       larkwells_art sheet BUNDLE_DIR OUT.png\n");
+                 "       larkwells_art sheet BUNDLE_DIR OUT.png\n"
+                 "       larkwells_art render PICTURE OUT.png WIDTH HEIGHT\n");
     return 2;
 }
 }
@@ -48,5 +49,7 @@ int main(int argc, char **argv)
     }
     if (command == QLatin1String("sheet") && args.size() == 3)
         return Art::writeContactSheet(args[1], args[2]) ? 0 : 1;
+    if (command == QLatin1String("render") && args.size() == 5)
+        return Art::renderFilled(args[1], QSize(args[3].toInt(), args[4].toInt())).save(args[2]) ? 0 : 1;
     return usage();
 }

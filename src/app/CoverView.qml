@@ -17,7 +17,7 @@ Page {
     StackView.onActivating: controller.viewWillAppear()
     StackView.onDeactivating: controller.viewWillDisappear()
 
-    background: Rectangle { color: "#14233a" }
+    background: Rectangle { color: "#132036" } // the colour the cover fades into at its edges
 
     Image {
         id: img

@@ -4,6 +4,7 @@
 #include "ManagedObject.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,16 @@ Predicate Predicate::disjunction(const QList<Predicate> &subpredicates)
     return Predicate(Kind::Or, {}, {}, subpredicates);
 }
 
+namespace {
+// A sign and digits only: what the pattern below accepts, found without running it.
+bool plainDecimal(QStringView text)
+{
+    if (!text.isEmpty() && (text.front() == u'+' || text.front() == u'-'))
+        text = text.sliced(1);
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+}
+
 QVariant comparableValue(const EntityDescription &entity, const QString &attribute, const QVariant &value)
 {
     const auto type = entity.typeOf(attribute);
@@ -41,29 +52,48 @@ QVariant comparableValue(const EntityDescription &entity, const QString &attribu
         if (value.typeId() != QMetaType::QString)
             return value.toLongLong();
         static const QRegularExpression decimal(u"^[+-]?[0-9]+$"_s);
+        const QString text = value.toString();
         bool ok = false;
-        const qlonglong number = value.toString().toLongLong(&ok);
-        return decimal.match(value.toString()).hasMatch() && ok ? QVariant(number) : QVariant();
+        const qlonglong number = text.toLongLong(&ok);
+        return ok && (plainDecimal(text) || decimal.match(text).hasMatch()) ? QVariant(number) : QVariant();
     }
     return {};
 }
 
 QString Predicate::sql(const EntityDescription &entity, QVariantList &bindings) const
 {
+    QString out;
+    appendSql(entity, out, bindings);
+    return out;
+}
+
+// Writes into one string: the fetch of every seeded page runs this.
+void Predicate::appendSql(const EntityDescription &entity, QString &out, QVariantList &bindings) const
+{
     if (m_kind == Kind::Equals) {
         const QVariant value = comparableValue(entity, m_attribute, m_value);
-        if (!value.isValid())
-            return u"0"_s;
+        if (!value.isValid()) {
+            out += u'0';
+            return;
+        }
         const auto type = entity.typeOf(m_attribute);
         bindings.append(*type == AttributeType::Date ? QVariant(value.toDateTime().toString(Qt::ISODate)) : value);
-        return u"\"%1\" = ?"_s.arg(m_attribute);
+        out += u'"';
+        out += m_attribute;
+        out += u"\" = ?"_s;
+        return;
     }
-    QStringList parts;
-    for (const Predicate &sub : m_subpredicates)
-        parts.append(u'(' + sub.sql(entity, bindings) + u')');
-    if (parts.isEmpty())
-        return m_kind == Kind::And ? u"1"_s : u"0"_s;
-    return parts.join(m_kind == Kind::And ? u" AND "_s : u" OR "_s);
+    if (m_subpredicates.isEmpty()) {
+        out += m_kind == Kind::And ? u'1' : u'0';
+        return;
+    }
+    for (qsizetype i = 0; i < m_subpredicates.size(); ++i) {
+        if (i > 0)
+            out += m_kind == Kind::And ? u" AND "_s : u" OR "_s;
+        out += u'(';
+        m_subpredicates[i].appendSql(entity, out, bindings);
+        out += u')';
+    }
 }
 
 bool Predicate::evaluate(const ManagedObject &object) const

@@ -25,6 +25,7 @@ public:
 private:
     enum class Kind { Equals, And, Or };
     Predicate(Kind kind, QString attribute, QVariant value, QList<Predicate> subpredicates);
+    void appendSql(const EntityDescription &entity, QString &out, QVariantList &bindings) const;
 
     Kind m_kind;
     QString m_attribute;

@@ -49,6 +49,8 @@ ApplicationWindow {
         }
     }
 
+    ShareSheet {}
+
     AlertDialog {
         anchors.centerIn: parent
     }

@@ -1,9 +1,10 @@
 #include "ManagedObjectContext.h"
 
-#include <QSqlError>
 #include "Entities.h"
 #include "FatalError.h"
 
+#include <QCoreApplication>
+#include <QSqlError>
 #include <QSqlRecord>
 #include <limits>
 
@@ -62,6 +63,7 @@ QString StoreError::unresolvedMessage() const
 
 ManagedObjectContext::ManagedObjectContext(const QString &connectionName)
     : m_connectionName(connectionName)
+    , m_database(QSqlDatabase::database(connectionName, false))
 {
 }
 
@@ -106,11 +108,33 @@ QSqlQuery &ManagedObjectContext::prepared(const QString &sql)
 {
     auto &statement = m_statements[sql];
     if (!statement) {
-        statement = std::make_shared<QSqlQuery>(QSqlDatabase::database(m_connectionName, false));
+        statement = std::make_shared<QSqlQuery>(m_database);
         statement->setForwardOnly(true);
         statement->prepare(sql);
     }
     return *statement;
+}
+
+const ManagedObjectContext::EntitySql &ManagedObjectContext::sqlFor(const EntityDescription &entity)
+{
+    auto it = m_entitySql.constFind(&entity);
+    if (it != m_entitySql.constEnd())
+        return *it;
+    EntitySql sql;
+    QStringList columns, assignments;
+    for (const AttributeDescription &attribute : entity.attributes) {
+        const QString column = u'"' + attribute.name + u'"';
+        sql.valueNames.append(u":v"_s + QString::number(sql.valueNames.size()));
+        columns.append(column);
+        assignments.append(column + u" = "_s + sql.valueNames.last());
+    }
+    const QString table = u'"' + entity.name + u'"';
+    sql.select = u"SELECT "_s + columnList(entity) + u" FROM "_s + table;
+    sql.insert = u"INSERT INTO "_s + table + u" ("_s + columns.join(u", "_s) + u") VALUES ("_s
+        + sql.valueNames.join(u", "_s) + u')';
+    sql.update = u"UPDATE "_s + table + u" SET "_s + assignments.join(u", "_s) + u" WHERE id = :id"_s;
+    sql.remove = u"DELETE FROM "_s + table + u" WHERE id = :id"_s;
+    return *m_entitySql.insert(&entity, std::move(sql));
 }
 
 StoreError ManagedObjectContext::errorOf(const QSqlQuery &query) const
@@ -118,7 +142,7 @@ StoreError ManagedObjectContext::errorOf(const QSqlQuery &query) const
     const QSqlError error = query.lastError();
     return {error.text(),
             {{u"NSSQLiteErrorDomain"_s, error.nativeErrorCode()},
-             {u"NSFilePath"_s, QSqlDatabase::database(m_connectionName, false).databaseName()},
+             {u"NSFilePath"_s, m_database.databaseName()},
              {u"reason"_s, error.databaseText()}}};
 }
 
@@ -160,7 +184,7 @@ QList<ManagedObject *> ManagedObjectContext::execute(const FetchRequest &request
 {
     const EntityDescription &entity = EntityDescription::named(request.entityName);
     QVariantList bindings;
-    QString sql = u"SELECT "_s + columnList(entity) + u" FROM \""_s + entity.name + u'"';
+    QString sql = sqlFor(entity).select;
     if (request.predicate)
         sql += u" WHERE "_s + request.predicate->sql(entity, bindings);
     QStringList order;
@@ -207,26 +231,16 @@ QList<ManagedObject *> ManagedObjectContext::execute(const FetchRequest &request
 void ManagedObjectContext::writeObject(ManagedObject *object, std::optional<StoreError> &error)
 {
     const EntityDescription &entity = object->entity();
-    QStringList columns;
-    for (const AttributeDescription &attribute : entity.attributes)
-        columns.append(u'"' + attribute.name + u'"');
-    QString sql;
-    if (object->m_deleted) {
-        sql = u"DELETE FROM \""_s + entity.name + u"\" WHERE id = ?"_s;
-    } else if (object->m_inserted) {
-        sql = u"INSERT INTO \""_s + entity.name + u"\" ("_s + columns.join(u", "_s) + u") VALUES ("_s
-            + QStringList(columns.size(), u"?"_s).join(u", "_s) + u')';
-    } else {
-        sql = u"UPDATE \""_s + entity.name + u"\" SET "_s + columns.join(u" = ?, "_s) + u" = ? WHERE id = ?"_s;
-    }
-    QSqlQuery &query = prepared(sql);
-    int index = 0;
+    const EntitySql &sql = sqlFor(entity);
+    QSqlQuery &query = prepared(object->m_deleted ? sql.remove : object->m_inserted ? sql.insert : sql.update);
     if (!object->m_deleted) {
-        for (const AttributeDescription &attribute : entity.attributes)
-            query.bindValue(index++, toColumn(attribute.type, object->m_values.value(attribute.name)));
+        for (qsizetype i = 0; i < entity.attributes.size(); ++i) {
+            const AttributeDescription &attribute = entity.attributes[i];
+            query.bindValue(sql.valueNames[i], toColumn(attribute.type, object->m_values.value(attribute.name)));
+        }
     }
     if (!object->m_inserted)
-        query.bindValue(index, object->m_id);
+        query.bindValue(u":id"_s, object->m_id);
     if (!query.exec()) {
         error = errorOf(query);
         return;
@@ -236,24 +250,37 @@ void ManagedObjectContext::writeObject(ManagedObject *object, std::optional<Stor
     query.finish();
 }
 
+// BEGIN and COMMIT as kept statements: the driver's transaction() and commit() would compile
+// them anew on every save. Failures read as the driver's own.
+std::optional<StoreError> ManagedObjectContext::execTransactionStatement(const QString &sql, const char *failure)
+{
+    QSqlQuery &query = prepared(sql);
+    const bool ok = m_database.isOpen() && query.exec();
+    const QString reason = query.lastError().databaseText();
+    query.finish();
+    if (ok)
+        return std::nullopt;
+    const QSqlError error(QCoreApplication::translate("QSQLiteDriver", failure), reason, QSqlError::TransactionError);
+    return StoreError{error.text(), {{u"reason"_s, error.databaseText()}}};
+}
+
 std::optional<StoreError> ManagedObjectContext::save()
 {
     if (!hasChanges())
         return std::nullopt;
-    QSqlDatabase database = QSqlDatabase::database(m_connectionName, false);
-    std::optional<StoreError> error;
-    if (!database.transaction())
-        return StoreError{database.lastError().text(), {{u"reason"_s, database.lastError().databaseText()}}};
+    std::optional<StoreError> error = execTransactionStatement(u"BEGIN"_s, "Unable to begin transaction");
+    if (error)
+        return error;
     for (const QList<ManagedObject *> *changes : {&m_inserted, &m_updated, &m_deleted}) {
         for (ManagedObject *object : *changes) {
             if (!error)
                 writeObject(object, error);
         }
     }
-    if (error || !database.commit()) {
-        if (!error)
-            error = StoreError{database.lastError().text(), {{u"reason"_s, database.lastError().databaseText()}}};
-        database.rollback();
+    if (!error)
+        error = execTransactionStatement(u"COMMIT"_s, "Unable to commit transaction");
+    if (error) {
+        m_database.rollback();
         for (ManagedObject *object : std::as_const(m_inserted))
             object->m_id = 0;
         return error;

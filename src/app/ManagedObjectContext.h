@@ -58,16 +58,27 @@ private:
     void adopt(std::unique_ptr<ManagedObject> object);
     void markUpdated(ManagedObject *object);
     ManagedObject *objectForRow(const EntityDescription &entity, const QSqlQuery &query);
+    // The statement for this SQL, prepared on first use and kept for the context's lifetime.
     QSqlQuery &prepared(const QString &sql);
+    // The SQL texts of an entity, built once. Writes name their placeholders (":v0" for the
+    // first attribute, ..., ":id"): Qt binds a name without formatting a name for the position.
+    struct EntitySql {
+        QString select, insert, update, remove;
+        QStringList valueNames;
+    };
+    const EntitySql &sqlFor(const EntityDescription &entity);
     StoreError errorOf(const QSqlQuery &query) const;
+    std::optional<StoreError> execTransactionStatement(const QString &sql, const char *failure);
     void writeObject(ManagedObject *object, std::optional<StoreError> &error);
     void sortInMemory(QList<ManagedObject *> &objects, const QList<SortDescriptor> &sort) const;
 
     QString m_connectionName;
+    QSqlDatabase m_database; // the connection, looked up once
     std::vector<std::unique_ptr<ManagedObject>> m_objects;
     QHash<QString, QHash<qint64, ManagedObject *>> m_registered; // entity → id → object
     QList<ManagedObject *> m_inserted;
     QList<ManagedObject *> m_updated;
     QList<ManagedObject *> m_deleted;
     QHash<QString, std::shared_ptr<QSqlQuery>> m_statements;
+    QHash<const EntityDescription *, EntitySql> m_entitySql;
 };

@@ -3,15 +3,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <algorithm>
+#include <array>
 #include <iconv.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 const QStringList numberColumns{u"month"_s, u"day"_s, u"pagenum"_s};
-}
 
-std::optional<QString> PageFile::decodeWindows1250(const QByteArray &bytes)
+std::optional<QString> iconvWindows1250(const QByteArray &bytes)
 {
     iconv_t converter = iconv_open("UTF-8", "WINDOWS-1250");
     if (converter == iconv_t(-1))
@@ -28,6 +29,57 @@ std::optional<QString> PageFile::decodeWindows1250(const QByteArray &bytes)
         return std::nullopt;
     output.truncate(output.size() - qsizetype(outLeft));
     return QString::fromUtf8(output);
+}
+
+// Windows-1250 is a single-byte encoding without state, so a text decodes byte by byte: each
+// byte's character (or that it has none) is asked of iconv once, instead of iconv walking the
+// whole page file. Empty when iconv cannot convert at all.
+struct ByteTable {
+    std::array<char16_t, 256> character{};
+    std::array<bool, 256> defined{};
+};
+
+const std::optional<ByteTable> &windows1250Table()
+{
+    static const std::optional<ByteTable> table = []() -> std::optional<ByteTable> {
+        ByteTable result;
+        for (int byte = 0; byte < 256; ++byte) {
+            const std::optional<QString> text = iconvWindows1250(QByteArray(1, char(byte)));
+            if (!text && byte == 0)
+                return std::nullopt; // no converter
+            if (text && text->size() != 1)
+                return std::nullopt; // not one UTF-16 unit a byte: leave it to iconv
+            result.defined[byte] = text.has_value();
+            result.character[byte] = text ? text->at(0).unicode() : u'\0';
+        }
+        return result;
+    }();
+    return table;
+}
+
+// An optional sign and digits only, as the pattern "^[+-]?[0-9]+$" reads such text.
+bool plainDecimal(QStringView text)
+{
+    if (!text.isEmpty() && (text.front() == u'+' || text.front() == u'-'))
+        text = text.sliced(1);
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+}
+
+std::optional<QString> PageFile::decodeWindows1250(const QByteArray &bytes)
+{
+    const std::optional<ByteTable> &table = windows1250Table();
+    if (!table || bytes.isEmpty())
+        return iconvWindows1250(bytes);
+    QString text(bytes.size(), Qt::Uninitialized);
+    char16_t *out = reinterpret_cast<char16_t *>(text.data());
+    for (const char c : bytes) {
+        const auto byte = uchar(c);
+        if (!table->defined[byte])
+            return std::nullopt;
+        *out++ = table->character[byte];
+    }
+    return text;
 }
 
 std::variant<QString, PageFile::ReadError> PageFile::read(const QString &path, const QString &displayName)
@@ -57,11 +109,22 @@ QStringList PageFile::lines(const QString &text)
     cleaned.remove(u'\'');
     cleaned.remove(u'\r');
     // Line feed, vertical tab, form feed, next line, line separator, paragraph separator.
-    static const QRegularExpression newline(u"[\\n\\x{000B}\\x{000C}\\x{0085}\\x{2028}\\x{2029}]"_s);
+    const auto isNewline = [](QChar c) {
+        switch (c.unicode()) {
+        case u'\n': case 0x000B: case 0x000C: case 0x0085: case 0x2028: case 0x2029: return true;
+        default: return false;
+        }
+    };
     QStringList result;
-    for (const QString &line : cleaned.split(newline)) {
+    const QStringView view(cleaned);
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= view.size(); ++i) {
+        if (i < view.size() && !isNewline(view[i]))
+            continue;
+        const QStringView line = view.sliced(start, i - start);
         if (!line.isEmpty() && line != marker)
-            result.append(line);
+            result.append(line.toString());
+        start = i + 1;
     }
     return result;
 }
@@ -74,7 +137,7 @@ QStringList PageFile::pieces(const QString &line)
 std::optional<qint16> PageFile::strictInt16(const QString &text)
 {
     static const QRegularExpression decimal(u"^[+-]?[0-9]+$"_s);
-    if (!decimal.match(text).hasMatch())
+    if (!plainDecimal(text) && !decimal.match(text).hasMatch())
         return std::nullopt;
     bool ok = false;
     const int value = text.toInt(&ok);

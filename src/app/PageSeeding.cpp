@@ -11,6 +11,10 @@ using namespace Qt::StringLiterals;
 void PageSeeding::clearPoemPrayers()
 {
     const auto container = loadedContainer();
+    // The main store opens now rather than at the first page: were this container the last
+    // connection when it closes, SQLite would checkpoint and delete the write-ahead log (with
+    // its disk flushes) only for the loading to create it again.
+    AppDelegate::shared().persistentContainer();
     ManagedObjectContext &context = container->viewContext();
     std::optional<StoreError> error;
     const QList<PoemPrayer *> pages = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest(), &error);

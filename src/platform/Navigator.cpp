@@ -7,6 +7,8 @@ using namespace Qt::StringLiterals;
 Navigator::Navigator(QObject *parent)
     : QObject(parent)
     , m_pages{
+          {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
+          {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
       }
 {
 }

@@ -4,11 +4,15 @@ list(APPEND LARKWELLS_SOURCES
     platform/Bundle.h platform/Bundle.cpp
     platform/Device.h platform/Device.cpp
     platform/FatalError.h platform/FatalError.cpp
+    platform/Fonts.h platform/Fonts.cpp
     platform/Log.h platform/Log.cpp
     platform/Navigator.h platform/Navigator.cpp
     platform/ReviewRequest.h platform/ReviewRequest.cpp
+    platform/Sharing.h platform/Sharing.cpp
     platform/UserDefaults.h platform/UserDefaults.cpp
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
+    platform/NavigationBar.qml
+    platform/ShareSheet.qml
 )

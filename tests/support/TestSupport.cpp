@@ -62,3 +62,16 @@ QQuickItem *findItem(QQuickItem *root, const QString &objectName)
     }
     return nullptr;
 }
+
+QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName)
+{
+    if (!root || !root->isVisible())
+        return nullptr;
+    if (root->objectName() == objectName)
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = findVisibleItem(child, objectName))
+            return found;
+    }
+    return nullptr;
+}

@@ -30,3 +30,5 @@ void importLarkwellsModule();
 class QQuickItem;
 // The first item with this object name in the visual tree below `root` (depth first).
 QQuickItem *findItem(QQuickItem *root, const QString &objectName);
+// The same among the items a user can see (hidden subtrees, such as covered screens, skipped).
+QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName);

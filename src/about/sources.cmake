@@ -1,0 +1,4 @@
+# Sources of this subsystem, relative to src/.
+list(APPEND LARKWELLS_SOURCES
+    about/AboutFile.h about/AboutFile.cpp
+)

@@ -1,0 +1,123 @@
+#include "MainTableViewController.h"
+
+#include "AppDelegate.h"
+#include "Appearance.h"
+#include "Bundle.h"
+#include "FatalError.h"
+#include "Fonts.h"
+#include "Navigator.h"
+#include "Selection.h"
+#include "Wallpapers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+FetchRequest requestForSegment(int segment)
+{
+    FetchRequest request = PoemPrayer::fetchRequest();
+    const QList<SortDescriptor> calendar{{u"month"_s}, {u"day"_s}, {u"ampm"_s}};
+    switch (segment) {
+    case 0: {
+        // Today by the calendar date alone: both pages of the day, morning first.
+        const QDate today = MainTableViewController::currentDate();
+        request.predicate = Predicate::conjunction({Predicate::equals(u"month"_s, QString::number(today.month())),
+                                                    Predicate::equals(u"day"_s, QString::number(today.day()))});
+        request.sortDescriptors = {{u"ampm"_s}, {u"day"_s}};
+        break;
+    }
+    case 1:
+        request.predicate = Predicate::disjunction({Predicate::equals(u"ampm"_s, u"AM"_s),
+                                                    Predicate::equals(u"ampm"_s, u"PM"_s)});
+        request.sortDescriptors = calendar;
+        break;
+    case 2:
+    case 3:
+        request.predicate = Predicate::equals(u"ampm"_s, segment == 2 ? u"AM"_s : u"PM"_s);
+        request.sortDescriptors = calendar;
+        break;
+    default:
+        request.predicate = Predicate::equals(u"favorite"_s, u"T"_s);
+        request.sortDescriptors = calendar;
+    }
+    return request;
+}
+}
+
+MainTableViewController::MainTableViewController(QObject *parent)
+    : QObject(parent)
+    , m_PoemList(this)
+{
+}
+
+QStringList MainTableViewController::segmentTitles() const
+{
+    return {u"Today"_s, u"All"_s, u"AM"_s, u"PM"_s, u"Favs"_s};
+}
+
+void MainTableViewController::setSegmentIndex(int index)
+{
+    if (index == m_segmentIndex)
+        return;
+    m_segmentIndex = index;
+    Q_EMIT segmentIndexChanged();
+}
+
+QUrl MainTableViewController::wallpaper() const
+{
+    if (m_ListWallpaperVisible != 1)
+        return {};
+    return Bundle::main().imageUrl(Wallpapers::PMWallpaper().value(m_PMRandomNumberGen));
+}
+
+void MainTableViewController::viewDidLoad()
+{
+    m_PMRandomNumberGen = Wallpapers::draw(Wallpapers::PMWallpaper(), 34, m_PMRandomNumberGen);
+    const QString selectedList = Selection::shared().selectedList();
+    setSegmentIndex(selectedList == u"AM"_s ? 2 : selectedList == u"PM"_s ? 3 : selectedList == u"FAV"_s ? 4 : 0);
+    const ListAppearance appearance = ListAppearance::read();
+    m_ListFontName = appearance.ListFontName;
+    m_ListFontSize = appearance.ListFontSize;
+    m_ListWallpaperVisible = appearance.ListWallpaperVisible;
+    Q_EMIT appearanceChanged();
+    fetch();
+}
+
+void MainTableViewController::viewWillAppear()
+{
+    fetch();
+}
+
+void MainTableViewController::segmentedControlAction(int index)
+{
+    setSegmentIndex(index);
+    fetch();
+}
+
+void MainTableViewController::fetch()
+{
+    std::optional<StoreError> error; // a failed fetch shows an empty list
+    const QList<PoemPrayer *> pages =
+        AppDelegate::shared().viewContext().fetch<PoemPrayer>(requestForSegment(m_segmentIndex), &error);
+    if (!pages.isEmpty())
+        Fonts::requireKnown(m_ListFontName);
+    m_PoemList.setPages(pages);
+}
+
+void MainTableViewController::didSelectRowAt(int row)
+{
+    const PoemPrayer *page = m_PoemList.pages().value(row);
+    if (!page)
+        return;
+    Selection &selection = Selection::shared();
+    selection.setSelectedPoemPrayer(page->poemprayer().value_or(QString()));
+    selection.setSelectedDt(page->dt().value_or(QString()));
+    if (!page->ampm())
+        fatalError(u"Fatal error: the chosen page has no time of day"_s);
+    if (!page->ampm()->isEmpty())
+        selection.setSelectedAmpm(*page->ampm());
+    selection.setSelectedMonth(page->month());
+    selection.setSelectedDay(page->day());
+    selection.setSelectedPagenum(page->pagenum());
+    selection.setSelectedFavorite(page->favorite() == u"T"_s ? u"T"_s : u"F"_s);
+    Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+}

@@ -1,0 +1,53 @@
+#include "PoemPrayerListModel.h"
+
+#include "FatalError.h"
+
+using namespace Qt::StringLiterals;
+
+void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
+{
+    beginResetModel();
+    m_pages = pages;
+    endResetModel();
+}
+
+int PoemPrayerListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_pages.size());
+}
+
+QString PoemPrayerListModel::pageLabel(const PoemPrayer &page)
+{
+    // Both labels are 23 characters before the number, so the numbers line up.
+    const QString number = QString::number(page.pagenum());
+    if (page.ampm() == u"AM"_s)
+        return u"Good Morning:   Page#  "_s + number;
+    if (page.ampm() == u"PM"_s)
+        return u"  Good Night:   Page#  "_s + number;
+    return u"Blank"_s;
+}
+
+QString PoemPrayerListModel::dateLabel(const PoemPrayer &page)
+{
+    if (!page.dt())
+        fatalError(u"Fatal error: page %1 has no date text"_s.arg(page.pagenum()));
+    return *page.dt();
+}
+
+QVariant PoemPrayerListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const PoemPrayer &page = *m_pages[index.row()];
+    switch (role) {
+    case DateLabelRole: return dateLabel(page);
+    case PageLabelRole: return pageLabel(page);
+    case FavoriteCheckedRole: return page.favorite() == u"T"_s;
+    default: return {};
+    }
+}
+
+QHash<int, QByteArray> PoemPrayerListModel::roleNames() const
+{
+    return {{DateLabelRole, "dateText"}, {PageLabelRole, "pageText"}, {FavoriteCheckedRole, "favoriteChecked"}};
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Entities.h"
+
+#include <QAbstractListModel>
+
+// The pages a list shows, with the texts of their cells: the date, the "Good Morning"/"Good Night"
+// page label with its number, and whether the favourite box is ticked.
+class PoemPrayerListModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role { DateLabelRole = Qt::UserRole + 1, PageLabelRole, FavoriteCheckedRole };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    void setPages(const QList<PoemPrayer *> &pages);
+    const QList<PoemPrayer *> &pages() const { return m_pages; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    // "Good Morning:   Page#  12", "  Good Night:   Page#  12", or "Blank".
+    static QString pageLabel(const PoemPrayer &page);
+    // The page's date text; a page without one is a fatal stop.
+    static QString dateLabel(const PoemPrayer &page);
+
+private:
+    QList<PoemPrayer *> m_pages;
+};

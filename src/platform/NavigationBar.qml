@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Controls.Material
+import QtQuick.Layouts
+import Larkwells
+
+// The bar at the top of a screen: a back button, a title (or a title item) and trailing buttons.
+ToolBar {
+    id: bar
+    property string title
+    property bool showBack: true
+    // Replaces the title label when given (for example a segmented control).
+    property alias center: centerSlot.data
+    default property alias trailing: trailingRow.data
+    signal backClicked()
+
+    Material.background: Qt.hsva(0.5, 0.06, 0.96, 1)
+    Material.foreground: "black"
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: 4
+        anchors.rightMargin: 4
+        spacing: 4
+        ToolButton {
+            objectName: "backButton"
+            visible: bar.showBack
+            text: qsTr("‹ Back")
+            font.pixelSize: 17
+            Accessible.name: qsTr("Back")
+            Accessible.onPressAction: clicked()
+            onClicked: bar.backClicked()
+        }
+        Item {
+            id: centerSlot
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Label {
+                anchors.centerIn: parent
+                width: Math.min(implicitWidth, parent.width)
+                visible: centerSlot.children.length === 1
+                text: bar.title
+                font.pixelSize: 18
+                font.bold: true
+                elide: Text.ElideRight
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+        }
+        Row {
+            id: trailingRow
+            spacing: 2
+        }
+    }
+}

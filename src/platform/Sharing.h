@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QUrl>
+#include <functional>
+#include <optional>
+
+// The share sheet: hands a text to whatever the desktop offers — the clipboard, a text file, an
+// e-mail through the desktop's mail client, and a text message where a handler for sms: links
+// exists. The window shows the sheet while `showing`; the user's choice comes back here.
+class Sharing : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool showing READ showing NOTIFY showingChanged)
+    Q_PROPERTY(QString text READ text NOTIFY showingChanged)
+    Q_PROPERTY(bool canSendText READ canSendText CONSTANT)
+
+public:
+    static Sharing &shared();
+    static Sharing *create(QQmlEngine *, QJSEngine *);
+
+    // True where the desktop has a handler for text messages (sms: links).
+    bool canSendText() const;
+    // Tests decide what the device can do; none asks the desktop again.
+    void setCanSendTextForTesting(std::optional<bool> canSend) { m_canSendOverride = canSend; }
+
+    struct Request {
+        QString text;
+        std::function<void(bool completed)> completion; // after the user chose or cancelled
+        std::function<void()> presented;                // once the sheet is on screen
+    };
+    void present(Request request);
+
+    bool showing() const { return m_request.has_value(); }
+    QString text() const { return m_request ? m_request->text : QString(); }
+
+    // The sheet's choices.
+    Q_INVOKABLE void sheetPresented();
+    Q_INVOKABLE void copyToClipboard();
+    Q_INVOKABLE void saveToFile(const QUrl &file);
+    Q_INVOKABLE void email();
+    Q_INVOKABLE void textMessage();
+    Q_INVOKABLE void cancel();
+    // Closes the sheet, reporting whether an activity was completed.
+    void dismiss(bool completed);
+
+Q_SIGNALS:
+    void showingChanged();
+    // An activity could not be done (for example a file that could not be written).
+    void failed(const QString &message);
+
+private:
+    using QObject::QObject;
+    std::optional<Request> m_request;
+    std::optional<bool> m_canSendOverride;
+};
+
+// The delegate of the text-message composer: it only closes the composer when the user is done.
+class MessageComposer
+{
+public:
+    enum class Result { Cancelled, Sent, Failed };
+    void messageComposeViewControllerDidFinish(Sharing &sharing, Result result);
+};

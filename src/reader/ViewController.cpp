@@ -1,0 +1,161 @@
+#include "ViewController.h"
+
+#include "AppDelegate.h"
+#include "Appearance.h"
+#include "Bundle.h"
+#include "Device.h"
+#include "Fonts.h"
+#include "Log.h"
+#include "Navigator.h"
+#include "ReviewPrompt.h"
+#include "Selection.h"
+#include "Sharing.h"
+#include "Alerts.h"
+#include "UserDefaults.h"
+#include "Wallpapers.h"
+
+using namespace Qt::StringLiterals;
+
+ViewController::ViewController(QObject *parent)
+    : QObject(parent)
+{
+}
+
+QString ViewController::composedText(const QString &ampm, const QString &dt, const QString &poemPrayer)
+{
+    if (ampm == u"AM"_s)
+        return u"\nFrom The Larkwells\n Good Morning\n\n"_s + dt + u"\n\n"_s + poemPrayer;
+    if (ampm == u"PM"_s)
+        return u"\nFrom The Larkwells\n Good Night\n\n"_s + dt + u"\n\n"_s + poemPrayer;
+    return poemPrayer;
+}
+
+void ViewController::setPoemPrayerText(const QString &text)
+{
+    if (text == m_PoemPrayerText)
+        return;
+    m_PoemPrayerText = text;
+    Q_EMIT PoemPrayerTextChanged();
+}
+
+void ViewController::viewDidLoad()
+{
+    m_title = u"View Poems/Prayers"_s;
+    // The reader's first draw may reach the last wallpaper; redraws never do.
+    m_ViewerRandomNumberGen = Wallpapers::draw(Wallpapers::ViewerWallpaper(), 35, m_ViewerRandomNumberGen);
+
+    switch (Device::shared().idiom()) {
+    case Device::Phone: m_deviceid = 1; break;
+    case Device::Tablet: m_deviceid = 2; Log::line(u"iPad"_s); break;
+    default: Log::line(u"Not Possible"_s);
+    }
+
+    const ReaderAppearance appearance = ReaderAppearance::read();
+    m_FontName = appearance.FontName;
+    m_ReaderFontSize = appearance.ReaderFontSize;
+    const qint64 textColor = appearance.textColor.value_or(0);
+    if (appearance.useWallpaper == 1)
+        m_wallpaper = Bundle::main().imageUrl(Wallpapers::ViewerWallpaper().value(m_ViewerRandomNumberGen));
+
+    Selection &selection = Selection::shared();
+    m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
+    selection.setSelectedPoemPrayer(m_CombinedText);
+
+    // Another colour code leaves the text view as laid out: empty, in the default look.
+    if (const auto color = textColorFor(textColor)) {
+        m_styled = true;
+        m_textColor = *color;
+        m_fontSize = m_ReaderFontSize;
+        Fonts::requireKnown(m_FontName);
+        setPoemPrayerText(selection.selectedPoemPrayer());
+    }
+
+    if (selection.selectedAmpm() == u"AM"_s)
+        m_title = u"Good Morning"_s;
+    else if (selection.selectedAmpm() == u"PM"_s)
+        m_title = u"Good Night"_s;
+    Q_EMIT loaded();
+    Q_EMIT fontSizeChanged();
+
+    if (selection.selectedFavorite() == u"T"_s)
+        Q_EMIT favoriteCheckStateRequested(1, true);
+    else if (selection.selectedFavorite() == u"F"_s)
+        Q_EMIT favoriteCheckStateRequested(0, false);
+
+    ReviewPrompt::run(Bundle::main().version());
+}
+
+void ViewController::CheckBoxChecked(int checkState)
+{
+    Selection::shared().setSelectedFavorite(checkState == 1 ? u"T"_s : u"F"_s);
+    save();
+}
+
+void ViewController::SavePoem()
+{
+    save();
+}
+
+void ViewController::save()
+{
+    const Selection &selection = Selection::shared();
+    if (selection.selectedDt().isEmpty())
+        return;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    FetchRequest request = PoemPrayer::fetchRequest();
+    request.predicate = Predicate::conjunction({Predicate::equals(u"dt"_s, selection.selectedDt()),
+                                                Predicate::equals(u"ampm"_s, selection.selectedAmpm())});
+    m_Results = context.fetch<PoemPrayer>(request);
+    m_ResultsCount = int(m_Results.size());
+    // Only an unambiguous page is written; none or several write nothing.
+    if (m_ResultsCount != 1)
+        return;
+    PoemPrayer *page = m_Results.first();
+    page->setFavorite(selection.selectedFavorite());
+    page->setPoemprayer(m_PoemPrayerText);
+    if (const auto error = context.save())
+        Log::line(error->unresolvedMessage());
+}
+
+void ViewController::ChangeFontSize(double value)
+{
+    if (value > m_ReaderFontSize)
+        m_fontSize += 1;
+    else if (value < m_ReaderFontSize)
+        m_fontSize -= 1;
+    m_ReaderFontSize = value;
+    UserDefaults::standard().set(u"ReaderFontSize"_s, value);
+    UserDefaults::standard().synchronize();
+    Q_EMIT fontSizeChanged();
+}
+
+void ViewController::HandlePinch(double scale)
+{
+    m_zoom *= scale;
+    Q_EMIT zoomChanged();
+}
+
+void ViewController::SharePoem()
+{
+    if (!Sharing::shared().canSendText()) {
+        Alerts::shared().presentAsync({u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s,
+                                       {u"OK"_s}, {}});
+        return;
+    }
+    const QString ampm = Selection::shared().selectedAmpm();
+    if (ampm != u"AM"_s && ampm != u"PM"_s)
+        return;
+    Sharing::shared().present({m_PoemPrayerText, {}, {}});
+}
+
+void ViewController::FacebookShare()
+{
+    Sharing::shared().present({m_PoemPrayerText,
+                               [](bool completed) { Log::line(completed ? u"completed"_s : u"canceled"_s); },
+                               [] { Log::line(u"presented"_s); }});
+}
+
+void ViewController::BackToMain()
+{
+    Navigator::shared().unwind(u"unwindSegue"_s);
+}

@@ -1,0 +1,522 @@
+#include "M13Checkbox.h"
+#include "M13CheckboxController.h"
+#include "M13CheckboxPathGenerator.h"
+#include "TestSupport.h"
+
+#include <QAccessible>
+#include <QPainter>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using CheckState = M13Checkbox::CheckState;
+using BoxType = M13Checkbox::BoxType;
+using Style = M13Checkbox::AnimationStyle;
+using Kind = M13Checkbox::Animation::Kind;
+
+class TestCheckbox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { importLarkwellsModule(); }
+    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
+
+    void boxGeometry_data();
+    void boxGeometry();
+    void trimmed_data();
+    void trimmed();
+    void animationText_data();
+    void animationText();
+    void animationTextsAreDistinct();
+    void designTimeText_data();
+    void designTimeText();
+    void pointer_data();
+    void pointer();
+    void repeatedClicks();
+    void setFromCode_data();
+    void setFromCode();
+    void morphingDecidesTheWay_data();
+    void morphingDecidesTheWay();
+    void accessibility_data();
+    void accessibility();
+};
+
+namespace {
+
+// A window with one 40 × 40 check box at (60, 60), made by QML as the pages make it.
+struct Scene
+{
+    QQmlEngine engine;
+    std::unique_ptr<QQuickWindow> window;
+    M13Checkbox *box = nullptr;
+    QString errors;
+
+    explicit Scene(const QString &boxProperties = {})
+    {
+        engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&engine);
+        component.setData(uR"(
+            import QtQuick
+            import Larkwells
+            Window {
+                width: 200; height: 200; visible: true
+                M13Checkbox { x: 60; y: 60; width: 40; height: 40; Accessible.name: "Favorite"; %1 }
+            })"_s.arg(boxProperties).toUtf8(), QUrl(u"qrc:/tst_checkbox.qml"_s));
+        window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        errors = component.errorString();
+        if (window)
+            box = window->findChild<M13Checkbox *>();
+    }
+    QPoint at(QPointF boxPoint) const { return box->mapToScene(boxPoint).toPoint(); }
+};
+
+QString describe(const M13CheckboxPath &path)
+{
+    const auto n = [](qreal v) { return QString::number(v); };
+    QStringList steps;
+    for (const auto &e : path.elements()) {
+        switch (e.type) {
+        case M13CheckboxPath::Element::MoveTo:
+            steps << u"M %1,%2"_s.arg(n(e.point.x()), n(e.point.y()));
+            break;
+        case M13CheckboxPath::Element::LineTo:
+            steps << u"L %1,%2"_s.arg(n(e.point.x()), n(e.point.y()));
+            break;
+        case M13CheckboxPath::Element::Arc:
+            steps << u"A %1,%2 r%3 %4..%5 %6"_s.arg(n(e.point.x()), n(e.point.y()), n(e.radius),
+                                                  n(qRadiansToDegrees(e.startAngle)), n(qRadiansToDegrees(e.endAngle)),
+                                                  e.clockwise ? u"cw"_s : u"ccw"_s);
+            break;
+        case M13CheckboxPath::Element::Close:
+            steps << u"Z"_s;
+            break;
+        }
+    }
+    return steps.join(u"; "_s);
+}
+
+M13Checkbox::Animation make(Kind kind, Style style)
+{
+    using A = M13Checkbox::Animation;
+    switch (kind) {
+    case Kind::Bounce: return A::bounce(style);
+    case Kind::Expand: return A::expand(style);
+    case Kind::Flat: return A::flat(style);
+    case Kind::Fade: return A::fade(style);
+    case Kind::Dot: return A::dot(style);
+    case Kind::Stroke: return A::stroke();
+    case Kind::Fill: return A::fill();
+    case Kind::Spiral: return A::spiral();
+    }
+    return A::stroke();
+}
+
+QImage render(const M13CheckboxController &controller)
+{
+    QImage image(48, 48, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    controller.paint(&painter);
+    return image;
+}
+
+bool sameDistinctPoint(QPointF a, QPointF b)
+{
+    return QLineF(a, b).length() < 0.05;
+}
+
+} // namespace
+
+void TestCheckbox::boxGeometry_data()
+{
+    QTest::addColumn<BoxType>("boxType");
+    QTest::addColumn<qreal>("lineWidth");
+    QTest::addColumn<qreal>("cornerRadius");
+    QTest::addColumn<QString>("steps");
+
+    QTest::newRow("circle") << BoxType::Circle << 2.0 << 5.0 << u"A 15,15 r14 -90..270 cw"_s;
+    QTest::newRow("square, sharp corners")
+        << BoxType::Square << 2.0 << 0.0 << u"M 15,1; L 29,1; L 29,29; L 1,29; L 1,1; Z"_s;
+    QTest::newRow("square, rounded corners")
+        << BoxType::Square << 2.0 << 4.0
+        << u"M 15,1; L 25,1; A 25,5 r4 -90..0 cw; L 29,25; A 25,25 r4 0..90 cw; L 5,29; "
+           "A 5,25 r4 90..180 cw; L 1,5; A 5,5 r4 180..270 cw; Z"_s;
+    QTest::newRow("square, thick line")
+        << BoxType::Square << 6.0 << 2.0
+        << u"M 15,3; L 25,3; A 25,5 r2 -90..0 cw; L 27,25; A 25,25 r2 0..90 cw; L 5,27; "
+           "A 5,25 r2 90..180 cw; L 3,5; A 5,5 r2 180..270 cw; Z"_s;
+}
+
+void TestCheckbox::boxGeometry()
+{
+    QFETCH(BoxType, boxType);
+    QFETCH(qreal, lineWidth);
+    QFETCH(qreal, cornerRadius);
+    QFETCH(QString, steps);
+
+    M13CheckboxCheckPathGenerator generator;
+    generator.setSize(30);
+    generator.setBoxType(boxType);
+    generator.setBoxLineWidth(lineWidth);
+    generator.setCornerRadius(cornerRadius);
+    const M13CheckboxPath box = generator.boxPath();
+    QCOMPARE(describe(box), steps);
+
+    // Drawn from the top middle clockwise on screen: a quarter of the way round is the right side.
+    const QPainterPath drawn = box.toPainterPath();
+    const qreal edge = lineWidth / 2;
+    QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0), QPointF(15, edge)));
+    QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.25), QPointF(30 - edge, 15)));
+    QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.5), QPointF(15, 30 - edge)));
+    QCOMPARE(drawn.boundingRect(), QRectF(edge, edge, 30 - lineWidth, 30 - lineWidth));
+}
+
+void TestCheckbox::trimmed_data()
+{
+    QTest::addColumn<QString>("shape");
+    QTest::addColumn<qreal>("start");
+    QTest::addColumn<qreal>("end");
+    QTest::addColumn<QPointF>("first");
+    QTest::addColumn<QPointF>("last");
+    QTest::addColumn<qreal>("length");
+
+    QTest::newRow("middle of a line") << u"line"_s << 0.2 << 0.6 << QPointF(2, 0) << QPointF(6, 0) << 4.0;
+    QTest::newRow("across two subpaths") << u"two lines"_s << 0.25 << 0.75 << QPointF(5, 0) << QPointF(5, 5) << 10.0;
+    QTest::newRow("round a corner") << u"square"_s << 0.2 << 0.3 << QPointF(8, 0) << QPointF(10, 2) << 4.0;
+    QTest::newRow("into the closing side") << u"square"_s << 0.8 << 1.0 << QPointF(0, 8) << QPointF(0, 0) << 8.0;
+    QTest::newRow("whole loop") << u"square"_s << 0.0 << 1.0 << QPointF(0, 0) << QPointF(0, 0) << 40.0;
+    QTest::newRow("nothing when backwards") << u"line"_s << 0.6 << 0.4 << QPointF() << QPointF() << 0.0;
+}
+
+void TestCheckbox::trimmed()
+{
+    QFETCH(QString, shape);
+    QFETCH(qreal, start);
+    QFETCH(qreal, end);
+    QFETCH(QPointF, first);
+    QFETCH(QPointF, last);
+    QFETCH(qreal, length);
+
+    M13CheckboxPath path;
+    path.moveTo({0, 0});
+    path.lineTo({10, 0});
+    if (shape == u"two lines"_s) {
+        path.moveTo({0, 5});
+        path.lineTo({10, 5});
+    } else if (shape == u"square"_s) {
+        path.lineTo({10, 10});
+        path.lineTo({0, 10});
+        path.closeSubpath();
+    }
+    const QPainterPath part = path.trimmed(start, end);
+    QCOMPARE(part.length(), length);
+    if (length > 0) {
+        QCOMPARE(part.pointAtPercent(0), first);
+        QCOMPARE(part.currentPosition(), last);
+    }
+}
+
+void TestCheckbox::animationText_data()
+{
+    QTest::addColumn<Kind>("kind");
+    QTest::addColumn<Style>("style");
+    QTest::addColumn<QString>("controller");
+
+    QTest::newRow("BounceStroke") << Kind::Bounce << Style::Stroke << u"M13CheckboxBounceController"_s;
+    QTest::newRow("BounceFill") << Kind::Bounce << Style::Fill << u"M13CheckboxBounceController"_s;
+    QTest::newRow("ExpandStroke") << Kind::Expand << Style::Stroke << u"M13CheckboxExpandController"_s;
+    QTest::newRow("ExpandFill") << Kind::Expand << Style::Fill << u"M13CheckboxExpandController"_s;
+    QTest::newRow("FlatStroke") << Kind::Flat << Style::Stroke << u"M13CheckboxFlatController"_s;
+    QTest::newRow("FlatFill") << Kind::Flat << Style::Fill << u"M13CheckboxFlatController"_s;
+    QTest::newRow("FadeStroke") << Kind::Fade << Style::Stroke << u"M13CheckboxFadeController"_s;
+    QTest::newRow("FadeFill") << Kind::Fade << Style::Fill << u"M13CheckboxFadeController"_s;
+    QTest::newRow("DotStroke") << Kind::Dot << Style::Stroke << u"M13CheckboxDotController"_s;
+    QTest::newRow("DotFill") << Kind::Dot << Style::Fill << u"M13CheckboxDotController"_s;
+    QTest::newRow("Stroke") << Kind::Stroke << Style::Stroke << u"M13CheckboxStrokeController"_s;
+    QTest::newRow("Fill") << Kind::Fill << Style::Fill << u"M13CheckboxFillController"_s;
+    QTest::newRow("Spiral") << Kind::Spiral << Style::Stroke << u"M13CheckboxSpiralController"_s;
+}
+
+void TestCheckbox::animationText()
+{
+    QFETCH(Kind, kind);
+    QFETCH(Style, style);
+    QFETCH(QString, controller);
+    const QString text = QString::fromLatin1(QTest::currentDataTag());
+
+    const M13Checkbox::Animation animation = make(kind, style);
+    QCOMPARE(animation.text(), text);
+    const auto parsed = M13Checkbox::Animation::fromText(text);
+    QVERIFY(parsed);
+    QVERIFY(*parsed == animation);
+    QCOMPARE(qHash(*parsed, 7), qHash(text, 7));
+
+    // Changing the animation swaps the controller and keeps what the box showed.
+    M13Checkbox box;
+    box.setSize({40, 40});
+    box.setCheckState(CheckState::Mixed);
+    box.setTintColor(Qt::darkGreen);
+    box.setMarkType(M13Checkbox::MarkType::Radio);
+    box.setBoxType(BoxType::Square);
+    box.setEnableMorphing(false);
+    box.setIBStateChangeAnimation(text);
+    QCOMPARE(QString::fromLatin1(box.controller()->metaObject()->className()), controller);
+    if (auto *styled = qobject_cast<M13CheckboxStyledController *>(box.controller()))
+        QCOMPARE(styled->style(), style);
+    QCOMPARE(box.checkState(), CheckState::Mixed);
+    QCOMPARE(box.tintColor(), QColor(Qt::darkGreen));
+    QCOMPARE(box.markType(), M13Checkbox::MarkType::Radio);
+    QCOMPARE(box.boxType(), BoxType::Square);
+    QCOMPARE(box.controller()->pathGenerator().size(), 40.0);
+    QVERIFY(!box.enableMorphing());
+    QVERIFY(box.controller()->markLayer().isVisible());
+}
+
+void TestCheckbox::animationTextsAreDistinct()
+{
+    QSet<M13Checkbox::Animation> all;
+    for (const auto &animation : M13Checkbox::Animation::all())
+        all.insert(animation);
+    QCOMPARE(all.size(), 13);
+    QVERIFY(!M13Checkbox::Animation::fromText(u"bounceStroke"_s));
+    QVERIFY(!M13Checkbox::Animation::fromText(u"Bounce"_s));
+}
+
+void TestCheckbox::designTimeText_data()
+{
+    QTest::addColumn<QString>("assignment");
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("state") << u"_IBCheckState: \"Mixed\""_s << u"_IBCheckState"_s << u"Mixed"_s;
+    QTest::newRow("state, unknown") << u"_IBCheckState: \"On\""_s << u"_IBCheckState"_s << u"Unchecked"_s;
+    QTest::newRow("mark") << u"_IBMarkType: \"AddRemove\""_s << u"_IBMarkType"_s << u"AddRemove"_s;
+    QTest::newRow("mark, unknown") << u"_IBMarkType: \"Tick\""_s << u"_IBMarkType"_s << u"Checkmark"_s;
+    QTest::newRow("box") << u"_IBBoxType: \"Square\""_s << u"_IBBoxType"_s << u"Square"_s;
+    QTest::newRow("box, wrong case") << u"_IBBoxType: \"square\""_s << u"_IBBoxType"_s << u"Circle"_s;
+    QTest::newRow("state by enum") << u"checkState: M13Checkbox.Checked"_s << u"_IBCheckState"_s << u"Checked"_s;
+    QTest::newRow("state set from QML") << u"Component.onCompleted: setCheckState(M13Checkbox.Mixed, true)"_s
+                                        << u"_IBCheckState"_s << u"Mixed"_s;
+    QTest::newRow("mark by enum") << u"markType: M13Checkbox.Disclosure"_s << u"_IBMarkType"_s << u"Disclosure"_s;
+    QTest::newRow("animation") << u"_IBStateChangeAnimation: \"DotFill\""_s << u"_IBStateChangeAnimation"_s
+                               << u"DotFill"_s;
+    QTest::newRow("animation, unknown") << u"_IBStateChangeAnimation: \"Wobble\""_s << u"_IBStateChangeAnimation"_s
+                                        << u"Stroke"_s;
+}
+
+void TestCheckbox::designTimeText()
+{
+    QFETCH(QString, assignment);
+    QFETCH(QString, property);
+    QFETCH(QString, expected);
+
+    Scene scene(assignment);
+    QVERIFY2(scene.box, qPrintable(scene.errors));
+    const QString text = scene.box->property(property.toLatin1()).toString();
+    QCOMPARE(text, expected);
+}
+
+void TestCheckbox::pointer_data()
+{
+    QTest::addColumn<bool>("touch");
+    QTest::addColumn<CheckState>("initial");
+    QTest::addColumn<QPointF>("press");
+    QTest::addColumn<QPointF>("release");
+    QTest::addColumn<CheckState>("expected");
+    QTest::addColumn<int>("valueChanges");
+
+    const QPointF inside(20, 20);
+    const QPointF outside(70, 20);
+    for (const bool touch : {false, true}) {
+        const char *how = touch ? "touch" : "mouse";
+        QTest::addRow("%s: unchecked toggles on", how) << touch << CheckState::Unchecked << inside << inside << CheckState::Checked << 1;
+        QTest::addRow("%s: checked toggles off", how) << touch << CheckState::Checked << inside << QPointF(2, 38) << CheckState::Unchecked << 1;
+        QTest::addRow("%s: mixed toggles off", how) << touch << CheckState::Mixed << inside << inside << CheckState::Unchecked << 1;
+        QTest::addRow("%s: lifted outside", how) << touch << CheckState::Unchecked << inside << outside << CheckState::Unchecked << 0;
+        QTest::addRow("%s: lifted just past the edge", how) << touch << CheckState::Checked << inside << QPointF(20, 41) << CheckState::Checked << 0;
+    }
+}
+
+void TestCheckbox::pointer()
+{
+    QFETCH(bool, touch);
+    QFETCH(CheckState, initial);
+    QFETCH(QPointF, press);
+    QFETCH(QPointF, release);
+    QFETCH(CheckState, expected);
+    QFETCH(int, valueChanges);
+
+    Scene scene;
+    QVERIFY2(scene.box, qPrintable(scene.errors));
+    QVERIFY(QTest::qWaitForWindowExposed(scene.window.get()));
+    scene.box->setCheckState(initial);
+    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+    QPointingDevice *screen = touch ? QTest::createTouchDevice() : nullptr;
+
+    // Down, a wander outside and back, then up wherever the row says.
+    const QList<QPointF> path{press, QPointF(90, 90), release};
+    if (touch) {
+        QTest::touchEvent(scene.window.get(), screen).press(0, scene.at(press));
+        QVERIFY(scene.box->isSelected());
+        for (const QPointF &p : path)
+            QTest::touchEvent(scene.window.get(), screen).move(0, scene.at(p));
+        QVERIFY(scene.box->isSelected());
+        QTest::touchEvent(scene.window.get(), screen).release(0, scene.at(release));
+    } else {
+        QTest::mousePress(scene.window.get(), Qt::LeftButton, {}, scene.at(press));
+        QVERIFY(scene.box->isSelected());
+        for (const QPointF &p : path)
+            QTest::mouseMove(scene.window.get(), scene.at(p));
+        QVERIFY(scene.box->isSelected());
+        QTest::mouseRelease(scene.window.get(), Qt::LeftButton, {}, scene.at(release));
+    }
+    QVERIFY(!scene.box->isSelected());
+    QCOMPARE(scene.box->checkState(), expected);
+    QCOMPARE(values.size(), valueChanges);
+}
+
+void TestCheckbox::repeatedClicks()
+{
+    Scene scene;
+    QVERIFY2(scene.box, qPrintable(scene.errors));
+    QVERIFY(QTest::qWaitForWindowExposed(scene.window.get()));
+    // Owners read the state in their handler: it must already be the new one.
+    QList<CheckState> seen;
+    connect(scene.box, &M13Checkbox::valueChanged, this, [&] { seen << scene.box->checkState(); });
+    for (int i = 0; i < 4; ++i)
+        QTest::mouseClick(scene.window.get(), Qt::LeftButton, {}, scene.at({20, 20}));
+    QCOMPARE(seen, (QList<CheckState>{CheckState::Checked, CheckState::Unchecked, CheckState::Checked,
+                                      CheckState::Unchecked}));
+}
+
+void TestCheckbox::setFromCode_data()
+{
+    QTest::addColumn<QString>("animation");
+    QTest::addColumn<bool>("morphing");
+    QTest::addColumn<bool>("animated");
+    QTest::addColumn<CheckState>("from");
+    QTest::addColumn<CheckState>("to");
+
+    for (const auto &animation : M13Checkbox::Animation::all()) {
+        const QString text = animation.text();
+        const auto name = [&](const char *what) { return qPrintable(text + QLatin1StringView(what)); };
+        QTest::newRow(name(", on, morphing")) << text << true << true << CheckState::Unchecked << CheckState::Checked;
+        QTest::newRow(name(", to mixed, morphing")) << text << true << true << CheckState::Checked << CheckState::Mixed;
+        QTest::newRow(name(", to mixed, not morphing")) << text << false << true << CheckState::Checked << CheckState::Mixed;
+        QTest::newRow(name(", off, not morphing")) << text << false << true << CheckState::Mixed << CheckState::Unchecked;
+    }
+    QTest::newRow("at once") << u"Stroke"_s << true << false << CheckState::Unchecked << CheckState::Mixed;
+    QTest::newRow("same state, animated") << u"Stroke"_s << true << true << CheckState::Checked << CheckState::Checked;
+    QTest::newRow("same state, not morphing") << u"Spiral"_s << false << true << CheckState::Mixed << CheckState::Mixed;
+}
+
+void TestCheckbox::setFromCode()
+{
+    QFETCH(QString, animation);
+    QFETCH(bool, morphing);
+    QFETCH(bool, animated);
+    QFETCH(CheckState, from);
+    QFETCH(CheckState, to);
+
+    M13Checkbox box;
+    box.setSize({40, 40});
+    box.setIBStateChangeAnimation(animation);
+    box.setEnableMorphing(morphing);
+    box.setAnimationDuration(0.05);
+    box.setCheckState(from);
+    QSignalSpy values(&box, &M13Checkbox::valueChanged);
+    QSignalSpy states(&box, &M13Checkbox::checkStateChanged);
+
+    box.setCheckState(to, animated);
+    QCOMPARE(box.checkState(), to); // at once, whatever the layers are still doing
+    QCOMPARE(states.size(), from == to ? 0 : 1);
+    if (from == to)
+        QVERIFY(!box.controller()->isAnimating());
+    QTRY_VERIFY(!box.controller()->isAnimating());
+
+    // Wherever the animation went, it ends looking exactly like the state set at once.
+    const QImage animatedEnd = render(*box.controller());
+    box.controller()->resetLayers();
+    QCOMPARE(animatedEnd, render(*box.controller()));
+    QCOMPARE(values.size(), 0);
+}
+
+void TestCheckbox::morphingDecidesTheWay_data()
+{
+    QTest::addColumn<QString>("animation");
+    QTest::addColumn<bool>("morphing");
+    for (const auto &animation : M13Checkbox::Animation::all()) {
+        QTest::newRow(qPrintable(animation.text() + u", morphing"_s)) << animation.text() << true;
+        QTest::newRow(qPrintable(animation.text() + u", not morphing"_s)) << animation.text() << false;
+    }
+}
+
+void TestCheckbox::morphingDecidesTheWay()
+{
+    QFETCH(QString, animation);
+    QFETCH(bool, morphing);
+
+    M13Checkbox box;
+    box.setSize({40, 40});
+    box.setIBStateChangeAnimation(animation);
+    box.setEnableMorphing(morphing);
+    box.setAnimationDuration(1000); // held still by seeking, never by waiting
+    box.setCheckState(CheckState::Checked);
+    box.setCheckState(CheckState::Mixed, true);
+
+    // Where the first animation ends: the bar itself when morphing, no mark at all otherwise.
+    QVERIFY(box.controller()->transition());
+    box.controller()->transition()->seek(1);
+    const M13CheckboxLayer &mark = box.controller()->markLayer();
+    QCOMPARE(mark.isVisible(), morphing);
+    if (morphing)
+        QCOMPARE(mark.path, box.controller()->pathGenerator().markPath(CheckState::Mixed));
+    QVERIFY(box.controller()->selectedBoxLayer().isVisible());
+}
+
+void TestCheckbox::accessibility_data()
+{
+    QTest::addColumn<CheckState>("initial");
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<CheckState>("expected");
+
+    QTest::newRow("toggle on") << CheckState::Unchecked << QAccessibleActionInterface::toggleAction() << CheckState::Checked;
+    QTest::newRow("press off") << CheckState::Checked << QAccessibleActionInterface::pressAction() << CheckState::Unchecked;
+    QTest::newRow("toggle mixed") << CheckState::Mixed << QAccessibleActionInterface::toggleAction() << CheckState::Unchecked;
+}
+
+void TestCheckbox::accessibility()
+{
+    QFETCH(CheckState, initial);
+    QFETCH(QString, action);
+    QFETCH(CheckState, expected);
+
+    Scene scene;
+    QVERIFY2(scene.box, qPrintable(scene.errors));
+    QVERIFY(QTest::qWaitForWindowExposed(scene.window.get()));
+    scene.box->setCheckState(initial);
+    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(scene.box);
+    QVERIFY(face);
+    QCOMPARE(face->role(), QAccessible::CheckBox);
+    QCOMPARE(face->text(QAccessible::Name), u"Favorite"_s);
+    QVERIFY(face->state().checkable);
+    QCOMPARE(bool(face->state().checked), initial == CheckState::Checked);
+    QCOMPARE(bool(face->state().checkStateMixed), initial == CheckState::Mixed);
+
+    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+    QVERIFY(face->actionInterface());
+    QVERIFY(face->actionInterface()->actionNames().contains(action));
+    face->actionInterface()->doAction(action);
+    QCOMPARE(scene.box->checkState(), expected);
+    QCOMPARE(values.size(), 1);
+    QCOMPARE(bool(face->state().checked), expected == CheckState::Checked);
+}
+
+QTEST_MAIN(TestCheckbox)
+#include "tst_checkbox.moc"

@@ -1,0 +1,201 @@
+#include "AboutFile.h"
+#include "PageFile.h"
+#include "SpecialDayFile.h"
+#include "TestSupport.h"
+
+#include <QFile>
+#include <QHash>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QByteArray shipped(const QString &name)
+{
+    QFile file(TestEnvironment::sourceResources() + u'/' + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Every character Windows-1250 can hold.
+const QSet<QChar> &windows1250Characters()
+{
+    static const QSet<QChar> characters = [] {
+        QSet<QChar> set;
+        for (int byte = 1; byte < 256; ++byte) {
+            if (const auto text = PageFile::decodeWindows1250(QByteArray(1, char(byte))))
+                set.insert(text->at(0));
+        }
+        return set;
+    }();
+    return characters;
+}
+
+QString words(const QString &line)
+{
+    static const QRegularExpression word(u"[\\w’-]+"_s);
+    QStringList found;
+    for (const auto &match : word.globalMatch(line.toLower()))
+        found.append(match.captured());
+    return found.join(u' ');
+}
+
+// A poem of the book: where it stands and its text.
+struct Poem {
+    QString where;
+    QString text;
+};
+
+void checkShape(const Poem &poem)
+{
+    const qsizetype lines = poem.text.split(u'\n').size();
+    QVERIFY2(lines >= 4 && lines <= 16, qPrintable(poem.where + u": %1 lines"_s.arg(lines)));
+    for (const QChar c : poem.text)
+        QVERIFY2(c == u'\n' || windows1250Characters().contains(c), qPrintable(poem.where + u": character "_s + c));
+    for (const QChar c : {u',', u'\'', u'"', u'^'})
+        QVERIFY2(!poem.text.contains(c), qPrintable(poem.where + u": holds "_s + c));
+}
+
+QList<Poem> bookPoems()
+{
+    const auto text = PageFile::decodeWindows1250(shipped(u"Book.txt"_s));
+    if (!text)
+        return {};
+    QList<Poem> poems;
+    for (const QString &line : PageFile::lines(*text)) {
+        const QStringList pieces = PageFile::pieces(line);
+        poems.append({pieces.value(0) + u' ' + pieces.value(1), QString(pieces.value(6)).replace(u"@#@"_s, u"\n"_s)});
+    }
+    return poems;
+}
+
+QList<Poem> specialDayPoems()
+{
+    const auto records = SpecialDayFile::records(QString::fromUtf8(shipped(u"SpecialDays.txt"_s)));
+    QList<Poem> poems;
+    if (const auto *list = std::get_if<QList<SpecialDayFile::Record>>(&records)) {
+        for (const SpecialDayFile::Record &record : *list)
+            poems.append({record.fields.value(1) + u' ' + record.fields.value(0), record.fields.value(2)});
+    }
+    return poems;
+}
+}
+
+// The shipped book, read through the application's own parsers.
+class TestBook : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyDayOfALeapYearInOrder();
+    void sourceHoldsNothingTheLoaderWouldStrip();
+    void pagesHaveTheirShape();
+    void noLineIsMetTwice();
+    void specialDays();
+    void aboutArticles();
+};
+
+void TestBook::everyDayOfALeapYearInOrder()
+{
+    const auto text = PageFile::decodeWindows1250(shipped(u"Book.txt"_s));
+    QVERIFY2(text, "Book.txt holds a byte that is not Windows-1250");
+    const QStringList lines = PageFile::lines(*text);
+    QCOMPARE(lines.size(), 732);
+    const QLocale english(QLocale::English);
+    QDate date(2024, 1, 1);
+    for (int page = 1; page <= 732; ++page) {
+        const QString ampm = page % 2 ? u"AM"_s : u"PM"_s;
+        const auto parsed = PageFile::assignments(PageFile::pieces(lines[page - 1]), PageFile::columns);
+        QVERIFY2(std::holds_alternative<QList<PageFile::Assignment>>(parsed), qPrintable(lines[page - 1].left(60)));
+        const auto &values = std::get<QList<PageFile::Assignment>>(parsed);
+        QCOMPARE(values.size(), 7);
+        const QString where = u"page %1"_s.arg(page);
+        QCOMPARE(values[0].value.toString(), english.toString(date, u"MMMM d"_s));
+        QVERIFY2(values[1].value.toString() == ampm, qPrintable(where));
+        QVERIFY2(values[2].value.toInt() == date.month() && values[3].value.toInt() == date.day(), qPrintable(where));
+        QVERIFY2(values[4].value.toInt() == page, qPrintable(where));
+        QVERIFY2(values[5].value.toString() == u"F"_s, qPrintable(where));
+        if (ampm == u"PM"_s)
+            date = date.addDays(1);
+    }
+}
+
+void TestBook::sourceHoldsNothingTheLoaderWouldStrip()
+{
+    const auto text = PageFile::decodeWindows1250(shipped(u"Book.txt"_s));
+    QVERIFY(text);
+    for (const QChar c : {u',', u'\'', u'"', u'\r'})
+        QVERIFY2(!text->contains(c), qPrintable(u"Book.txt holds "_s + c));
+    for (const QString &line : text->split(u'\n', Qt::SkipEmptyParts)) {
+        if (line != PageFile::marker)
+            QVERIFY2(line.count(u'^') == 6, qPrintable(line.left(60)));
+    }
+}
+
+void TestBook::pagesHaveTheirShape()
+{
+    const QList<Poem> poems = bookPoems() + specialDayPoems();
+    QVERIFY(poems.size() > 732);
+    for (const Poem &poem : poems)
+        checkShape(poem);
+}
+
+void TestBook::noLineIsMetTwice()
+{
+    QHash<QString, QString> firstLines;
+    QHash<QString, QString> longLines;
+    for (const Poem &poem : bookPoems() + specialDayPoems()) {
+        const QStringList lines = poem.text.split(u'\n', Qt::SkipEmptyParts);
+        const QString first = words(lines.value(0));
+        QVERIFY2(!firstLines.contains(first), qPrintable(poem.where + u" opens like "_s + firstLines.value(first)));
+        firstLines.insert(first, poem.where);
+        QSet<QString> own;
+        for (const QString &line : lines) {
+            const QString normal = words(line);
+            if (normal.count(u' ') < 4 || own.contains(normal))
+                continue;
+            own.insert(normal);
+            QVERIFY2(!longLines.contains(normal),
+                     qPrintable(poem.where + u" repeats “"_s + line + u"” of "_s + longLines.value(normal)));
+            longLines.insert(normal, poem.where);
+        }
+    }
+}
+
+void TestBook::specialDays()
+{
+    const auto records = SpecialDayFile::records(QString::fromUtf8(shipped(u"SpecialDays.txt"_s)));
+    QVERIFY(std::holds_alternative<QList<SpecialDayFile::Record>>(records));
+    QSet<QString> keys;
+    QSet<QString> names;
+    for (const SpecialDayFile::Record &record : std::get<QList<SpecialDayFile::Record>>(records)) {
+        QCOMPARE(record.fields.size(), 3);
+        QVERIFY(record.fields[0] == u"AM"_s || record.fields[0] == u"PM"_s);
+        const QString key = record.fields[0] + record.fields[1];
+        QVERIFY2(!keys.contains(key), qPrintable(key));
+        keys.insert(key);
+        names.insert(record.fields[1]);
+        QVERIFY2(!record.fields[1].contains(u'\'') && !record.fields[1].contains(u'"'), qPrintable(record.fields[1]));
+    }
+    QVERIFY2(names.size() >= 30, qPrintable(QString::number(names.size())));
+}
+
+void TestBook::aboutArticles()
+{
+    const auto articles = AboutFile::articles(QString::fromUtf8(shipped(u"About.txt"_s)));
+    QVERIFY(std::holds_alternative<QList<AboutFile::Article>>(articles));
+    QStringList names;
+    for (const AboutFile::Article &article : std::get<QList<AboutFile::Article>>(articles)) {
+        names.append(article.name);
+        QVERIFY2(article.text && article.text->size() > 200, qPrintable(article.name));
+        QVERIFY2(!article.text->contains(u'\'') && !article.text->contains(u'"'), qPrintable(article.name));
+    }
+    names.sort();
+    QCOMPARE(names, (QStringList{u"Good Morning Acknowledgements"_s, u"Good Morning Authors"_s, u"Good Morning Preface"_s,
+                                 u"Good Night Acknowledgements"_s, u"Good Night Authors"_s, u"Good Night Preface"_s}));
+}
+
+QTEST_GUILESS_MAIN(TestBook)
+#include "tst_book.moc"

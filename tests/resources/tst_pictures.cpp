@@ -1,0 +1,266 @@
+// The shipped pictures, as the app finds them: complete sets under the right names, decodable
+// through the bundle, light enough to read over, distinct, within budget; the cover and icon.
+#include "TestSupport.h"
+
+#include "Bundle.h"
+#include "Wallpapers.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+#include <QSettings>
+#include <QSvgRenderer>
+#include <QtTest>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// The colour the cover's edges fade into, and that the cover screen fills around it.
+const QColor coverBackground(0x13, 0x20, 0x36);
+constexpr double brightLuminance = 0.55;
+constexpr double requiredBrightShare = 0.95;
+
+QString localPath(const QUrl &url)
+{
+    return url.scheme() == u"qrc"_s ? u':' + url.path() : url.toLocalFile();
+}
+
+// Natural size: the SVG's view box or the raster's pixels; empty when it cannot be decoded.
+QSizeF naturalSize(const QString &path)
+{
+    if (path.endsWith(u".svg"_s)) {
+        QSvgRenderer svg(path);
+        return svg.isValid() ? svg.viewBoxF().size() : QSizeF();
+    }
+    QImageReader reader(path);
+    return reader.canRead() ? QSizeF(reader.size()) : QSizeF();
+}
+
+// Scaled to fill `size` and cropped about the centre, as the app's Image items show them.
+QImage renderFilled(const QString &path, QSize size)
+{
+    QImage out(size, QImage::Format_ARGB32_Premultiplied);
+    out.fill(Qt::magenta); // anything left unpainted counts against the picture
+    const QSizeF natural = naturalSize(path);
+    if (natural.isEmpty())
+        return {};
+    const double scale = std::max(size.width() / natural.width(), size.height() / natural.height());
+    const QSizeF drawn = natural * scale;
+    const QRectF target((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2,
+                        drawn.width(), drawn.height());
+    QPainter p(&out);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (path.endsWith(u".svg"_s)) {
+        QSvgRenderer(path).render(&p, target);
+    } else {
+        const QImage image = QImageReader(path).read();
+        if (image.isNull())
+            return {};
+        p.drawImage(target, image);
+    }
+    return out;
+}
+
+double channel(int c)
+{
+    const double v = c / 255.0;
+    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+}
+
+double luminance(QRgb rgb)
+{
+    return 0.2126 * channel(qRed(rgb)) + 0.7152 * channel(qGreen(rgb)) + 0.0722 * channel(qBlue(rgb));
+}
+
+double brightShare(const QImage &image)
+{
+    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
+    qint64 bright = 0;
+    for (int y = 0; y < rgb.height(); ++y) {
+        const QRgb *line = reinterpret_cast<const QRgb *>(rgb.constScanLine(y));
+        for (int x = 0; x < rgb.width(); ++x)
+            bright += luminance(line[x]) >= brightLuminance;
+    }
+    return double(bright) / (qint64(rgb.width()) * rgb.height());
+}
+
+double meanDifference(const QImage &a, const QImage &b)
+{
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q));
+        }
+    return sum / (3.0 * a.width() * a.height());
+}
+
+QString bundled(const QString &name)
+{
+    return localPath(Bundle::main().imageUrl(name));
+}
+}
+
+class PicturesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_env.reset(new TestEnvironment); }
+    void cleanup() { m_env.reset(); }
+
+    void setsAreCompleteAndNamed_data()
+    {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<int>("first");
+        QTest::newRow("reader") << Wallpapers::ViewerWallpaper() << u"Page%1"_s << 1;
+        QTest::newRow("list") << Wallpapers::PMWallpaper() << u"AM-%1"_s << 36;
+    }
+    void setsAreCompleteAndNamed()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(QString, format);
+        QFETCH(int, first);
+        QCOMPARE(names.size(), 35);
+        for (int i = 0; i < names.size(); ++i) {
+            QCOMPARE(names[i], format.arg(first + i));
+            QVERIFY2(!Bundle::main().imageUrl(names[i]).isEmpty(), qPrintable(names[i]));
+        }
+    }
+
+    void bundleHoldsNoStrayPictures()
+    {
+        QStringList known = Wallpapers::ViewerWallpaper() + Wallpapers::PMWallpaper();
+        known << u"Cover"_s << u"Icon"_s;
+        int pictures = 0;
+        QDirIterator it(u":/bundle"_s, {u"*.svg"_s, u"*.png"_s, u"*.jpg"_s}, QDir::Files);
+        while (it.hasNext()) {
+            const QFileInfo file(it.next());
+            QVERIFY2(known.contains(file.completeBaseName()), qPrintable(file.fileName()));
+            ++pictures;
+        }
+        // One file per name: a second type of the same name would never be shown.
+        QCOMPARE(pictures, known.size());
+    }
+
+    void readerPictureFillsPageAndStaysLight_data() { rows(Wallpapers::ViewerWallpaper()); }
+    void readerPictureFillsPageAndStaysLight()
+    {
+        QFETCH(QString, name);
+        const QString path = bundled(name);
+        const QSizeF natural = naturalSize(path);
+        QVERIFY2(!natural.isEmpty(), "cannot be decoded");
+        QVERIFY(natural.height() > natural.width());
+        if (!path.endsWith(u".svg"_s))
+            QVERIFY2(natural.width() >= 1200 && natural.height() >= 1800, "too few pixels for a tablet");
+        for (const QSize size : {QSize(600, 900), QSize(390, 780)}) {
+            const double share = brightShare(renderFilled(path, size));
+            QVERIFY2(share >= requiredBrightShare, qPrintable(u"%1 bright at %2×%3"_s.arg(share).arg(size.width()).arg(size.height())));
+        }
+    }
+
+    void listPictureFillsRowsAndStaysLight_data() { rows(Wallpapers::PMWallpaper()); }
+    void listPictureFillsRowsAndStaysLight()
+    {
+        QFETCH(QString, name);
+        const QString path = bundled(name);
+        const QSizeF natural = naturalSize(path);
+        QVERIFY2(!natural.isEmpty(), "cannot be decoded");
+        QVERIFY2(natural.width() >= 4 * natural.height(), "not a wide band");
+        const QSize whole = (natural * (800 / natural.width())).toSize();
+        // The whole band, a phone's row and a tablet's row.
+        for (const QSize size : {whole, QSize(780, 130), QSize(1600, 130)}) {
+            const double share = brightShare(renderFilled(path, size));
+            QVERIFY2(share >= requiredBrightShare, qPrintable(u"%1 bright at %2×%3"_s.arg(share).arg(size.width()).arg(size.height())));
+        }
+    }
+
+    void noTwoPicturesAlike_data()
+    {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QSize>("thumbnail");
+        QTest::newRow("reader") << Wallpapers::ViewerWallpaper() << QSize(60, 90);
+        QTest::newRow("list") << Wallpapers::PMWallpaper() << QSize(192, 24);
+    }
+    void noTwoPicturesAlike()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(QSize, thumbnail);
+        QList<QImage> thumbs;
+        for (const QString &name : names)
+            thumbs.append(renderFilled(bundled(name), thumbnail).convertToFormat(QImage::Format_RGB32));
+        for (qsizetype i = 0; i < thumbs.size(); ++i)
+            for (qsizetype j = i + 1; j < thumbs.size(); ++j)
+                QVERIFY2(meanDifference(thumbs[i], thumbs[j]) > 1.0,
+                         qPrintable(names[i] + u" looks like "_s + names[j]));
+    }
+
+    void coverIsPortraitWithEdgesOfTheBackground()
+    {
+        const QString path = bundled(u"Cover"_s);
+        const QSizeF natural = naturalSize(path);
+        QVERIFY2(!natural.isEmpty(), "no cover");
+        QCOMPARE(natural.width() / natural.height(), 2.0 / 3.0);
+        // Shown whole in wide windows, its left and right edges meet the background colour.
+        const QImage cover = renderFilled(path, QSize(400, 600));
+        for (const int x : {0, 399})
+            for (int y = 0; y < 600; y += 25) {
+                const QColor c = cover.pixelColor(x, y);
+                QVERIFY2(std::abs(c.red() - coverBackground.red()) <= 6 && std::abs(c.green() - coverBackground.green()) <= 6
+                             && std::abs(c.blue() - coverBackground.blue()) <= 6,
+                         qPrintable(u"edge at %1,%2 is %3"_s.arg(x).arg(y).arg(c.name())));
+            }
+    }
+
+    void iconIsBundledAndRasterised_data()
+    {
+        QTest::addColumn<int>("size");
+        for (const int size : {16, 24, 32, 48, 64, 128, 192, 256, 512})
+            QTest::newRow(qPrintable(QString::number(size))) << size;
+    }
+    void iconIsBundledAndRasterised()
+    {
+        QFETCH(int, size);
+        const QSizeF svg = naturalSize(bundled(u"Icon"_s));
+        QVERIFY(!svg.isEmpty());
+        QCOMPARE(svg.width(), svg.height());
+        const QImage png(u"%1/%2x%2/apps/larkwells.png"_s.arg(QStringLiteral(LARKWELLS_ICONS_DIR)).arg(size));
+        QCOMPARE(png.size(), QSize(size, size));
+        QCOMPARE(qAlpha(png.pixel(size / 2, size / 2)), 255);
+    }
+
+    void desktopEntryNamesTheIcon()
+    {
+        QSettings entry(TestEnvironment::sourceResources() + u"/icon/larkwells.desktop"_s, QSettings::IniFormat);
+        entry.beginGroup(u"Desktop Entry"_s);
+        QCOMPARE(entry.value(u"Name"_s).toString(), u"The Larkwells Book"_s);
+        QCOMPARE(entry.value(u"Exec"_s).toString(), u"larkwells"_s);
+        QCOMPARE(entry.value(u"Icon"_s).toString(), u"larkwells"_s);
+    }
+
+    void picturesFitTheBudget()
+    {
+        qint64 total = 0;
+        QDirIterator it(u":/bundle"_s, {u"*.svg"_s, u"*.png"_s, u"*.jpg"_s}, QDir::Files);
+        while (it.hasNext())
+            total += QFileInfo(it.next()).size();
+        QVERIFY2(total <= 12 * 1024 * 1024, qPrintable(QString::number(total)));
+    }
+
+private:
+    static void rows(const QStringList &names)
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    std::unique_ptr<TestEnvironment> m_env;
+};
+
+QTEST_MAIN(PicturesTest)
+#include "tst_pictures.moc"

@@ -1,0 +1,223 @@
+// The picture generator's tools: the numbers it draws with, the SVG it writes, the fonts and
+// files it relies on, and that what it draws now is what the bundle ships.
+#include "Art.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QFontInfo>
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QImage render(const QByteArray &svg, QSize size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QSvgRenderer renderer(svg);
+    QPainter p(&image);
+    renderer.render(&p);
+    return image;
+}
+
+int darkPixels(const QImage &image)
+{
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            n += qGray(image.pixel(x, y)) < 128;
+    return n;
+}
+}
+
+class GeneratorTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void luminanceFollowsWcag_data()
+    {
+        QTest::addColumn<QRgb>("colour");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("white") << qRgb(255, 255, 255) << 1.0;
+        QTest::newRow("black") << qRgb(0, 0, 0) << 0.0;
+        QTest::newRow("red") << qRgb(255, 0, 0) << 0.2126;
+        QTest::newRow("green") << qRgb(0, 255, 0) << 0.7152;
+        QTest::newRow("blue") << qRgb(0, 0, 255) << 0.0722;
+        QTest::newRow("mid grey is darker than half") << qRgb(128, 128, 128) << 0.2159;
+        QTest::newRow("low channel on the linear toe") << qRgb(10, 10, 10) << 0.003035;
+    }
+    void luminanceFollowsWcag()
+    {
+        QFETCH(QRgb, colour);
+        QFETCH(double, expected);
+        QVERIFY2(std::abs(Art::luminance(colour) - expected) < 1e-4, qPrintable(QString::number(Art::luminance(colour))));
+    }
+
+    void randomIsRepeatableAndInRange()
+    {
+        Art::Random a(42), b(42), c(43);
+        bool differs = false;
+        for (int i = 0; i < 10000; ++i) {
+            const double x = a.uniform();
+            QCOMPARE(x, b.uniform());
+            differs = differs || x != c.uniform();
+            QVERIFY(x >= 0 && x < 1);
+            const int k = a.below(7);
+            b.below(7);
+            QVERIFY(k >= 0 && k < 7);
+        }
+        QVERIFY(differs);
+    }
+
+    void noiseIsSmoothAndBounded()
+    {
+        double lo = 1, hi = 0;
+        for (int i = 0; i < 4000; ++i) {
+            const double x = i * 0.0371, y = i * 0.0219;
+            const double v = Art::noise(5, x, y);
+            lo = std::min(lo, v);
+            hi = std::max(hi, v);
+            QVERIFY(std::abs(v - Art::noise(5, x + 1e-4, y)) < 1e-3);
+            const double f = Art::fractal(5, x, y, 4);
+            QVERIFY(f >= 0 && f <= 1);
+        }
+        // Spread over most of the range, not stuck near a constant.
+        QVERIFY(lo < 0.2 && hi > 0.8);
+        QCOMPARE(Art::noise(9, 3, 4), Art::latticeValue(9, 3, 4));
+    }
+
+    void smoothCurvePassesThroughItsPoints()
+    {
+        const QList<QPointF> points = {{0, 0}, {50, 40}, {120, -10}, {200, 30}};
+        const QPainterPath path = Art::smoothThrough(points);
+        QList<QPointF> ends;
+        for (int i = 0; i < path.elementCount(); ++i) {
+            const auto e = path.elementAt(i);
+            if (e.type == QPainterPath::MoveToElement
+                || (e.type == QPainterPath::CurveToDataElement && (i + 1 == path.elementCount()
+                                                                   || path.elementAt(i + 1).type != QPainterPath::CurveToDataElement)))
+                ends.append(QPointF(e.x, e.y));
+        }
+        QCOMPARE(ends, points);
+    }
+
+    void numbersAreShort_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("whole") << 12.0 << u"12"_s;
+        QTest::newRow("tenth") << 3.14159 << u"3.1"_s;
+        QTest::newRow("rounds up") << 2.96 << u"3"_s;
+        QTest::newRow("no negative zero") << -0.01 << u"0"_s;
+        QTest::newRow("negative") << -7.25 << u"-7.3"_s;
+    }
+    void numbersAreShort()
+    {
+        QFETCH(double, value);
+        QFETCH(QString, text);
+        QCOMPARE(Art::num(value), text);
+    }
+
+    void svgPathDrawsLikeThePainterPath()
+    {
+        // A ring: curves and a hole, which the written path must keep.
+        QPainterPath ring;
+        ring.addEllipse(QPointF(50, 50), 40, 40);
+        ring.addEllipse(QPointF(50, 50), 20, 20);
+        Art::Svg svg(100, 100);
+        svg.add(u"<path fill-rule=\"evenodd\" fill=\"#000000\" d=\""_s + Art::pathData(ring) + u"\"/>"_s);
+        const QImage drawn = render(svg.document(), QSize(100, 100));
+        QImage expected(100, 100, QImage::Format_ARGB32_Premultiplied);
+        expected.fill(Qt::white);
+        QPainter p(&expected);
+        p.fillPath(ring, Qt::black);
+        p.end();
+        QCOMPARE(qGray(drawn.pixel(50, 50)), 255);
+        QCOMPARE(qGray(drawn.pixel(50, 20)), 0);
+        QVERIFY(std::abs(darkPixels(drawn) - darkPixels(expected)) < 60);
+    }
+
+    void svgGradientsReachTheRenderer()
+    {
+        Art::Svg svg(100, 10);
+        const QString fill = svg.linearGradient(u"g"_s, 0, 0, 100, 0, {{0, QColor(255, 0, 0)}, {1, QColor(0, 0, 255)}});
+        svg.add(u"<rect width=\"100\" height=\"10\" fill=\""_s + fill + u"\"/>"_s);
+        const QImage image = render(svg.document(), QSize(100, 10));
+        QVERIFY(qRed(image.pixel(2, 5)) > 230 && qBlue(image.pixel(2, 5)) < 25);
+        QVERIFY(qBlue(image.pixel(97, 5)) > 230 && qRed(image.pixel(97, 5)) < 25);
+    }
+
+    void titleFontIsInstalled()
+    {
+        // Otherwise the cover's title would silently be set in a fallback face.
+        QVERIFY2(QFontInfo(QFont(u"EB Garamond 12"_s)).family().startsWith(u"EB Garamond"_s),
+                 qPrintable(QFontInfo(QFont(u"EB Garamond 12"_s)).family()));
+        const QPainterPath title = Art::textPath(u"Larkwells"_s, u"EB Garamond 12"_s, 100, 300, 500);
+        const QRectF box = title.boundingRect();
+        QVERIFY(std::abs(box.center().x() - 300) < 0.5);
+        QVERIFY(box.bottom() > 480 && box.bottom() < 510); // sits on its baseline
+        QVERIFY(box.width() > 300 && box.height() > 60);
+    }
+
+    void larkFitsItsBox()
+    {
+        const QRectF box = Art::lark().boundingRect();
+        QVERIFY(QRectF(0, 0, 200, 200).contains(box));
+        QVERIFY(box.width() > 100 && box.height() > 100);
+    }
+
+    void writesEveryBandAndTheCover()
+    {
+        QTemporaryDir dir;
+        QVERIFY(Art::writeBands(dir.path()));
+        QVERIFY(Art::writeCover(dir.path()));
+        QStringList expected{u"Cover.svg"_s};
+        for (int i = 36; i <= 70; ++i)
+            expected << u"AM-%1.svg"_s.arg(i);
+        QStringList written = QDir(dir.path()).entryList(QDir::Files);
+        written.sort();
+        expected.sort();
+        QCOMPARE(written, expected);
+        for (const QString &file : written)
+            QVERIFY2(QSvgRenderer(QDir(dir.path()).filePath(file)).isValid(), qPrintable(file));
+    }
+
+    void bundleMatchesWhatIsDrawnNow()
+    {
+        // A stale bundle would ship pictures the code no longer draws.
+        const QImage shipped = QImageReader(u":/bundle/Page7.jpg"_s).read().convertToFormat(QImage::Format_RGB32);
+        const QImage drawn = Art::paper(6);
+        QCOMPARE(shipped.size(), drawn.size());
+        double sum = 0;
+        for (int y = 0; y < drawn.height(); y += 3)
+            for (int x = 0; x < drawn.width(); x += 3)
+                sum += std::abs(qGray(shipped.pixel(x, y)) - qGray(drawn.pixel(x, y)));
+        QVERIFY(sum / ((drawn.width() / 3) * (drawn.height() / 3)) < 2.0);
+    }
+
+    void iconsAreDrawnAtEachSize()
+    {
+        QTemporaryDir dir;
+        QVERIFY(Art::writeIcons(TestEnvironment::sourceResources() + u"/icon/larkwells.svg"_s, dir.path(), {16, 48}));
+        for (const int size : {16, 48})
+            QCOMPARE(QImage(u"%1/%2x%2/apps/larkwells.png"_s.arg(dir.path()).arg(size)).size(), QSize(size, size));
+        QVERIFY(!Art::writeIcons(dir.filePath(u"missing.svg"_s), dir.path(), {16}));
+    }
+
+    void contactSheetMarksMissingPictures()
+    {
+        QTemporaryDir dir;
+        QVERIFY(Art::writeBands(dir.path()));
+        // The reader set and the cover are missing: the sheet is still made, but reported.
+        QVERIFY(!Art::writeContactSheet(dir.path(), dir.filePath(u"sheet.png"_s)));
+        QVERIFY(!QImage(dir.filePath(u"sheet.png"_s)).isNull());
+    }
+};
+
+QTEST_MAIN(GeneratorTest)
+#include "tst_pictures_generator.moc"

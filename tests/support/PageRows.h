@@ -1,0 +1,22 @@
+#pragma once
+
+#include "AppDelegate.h"
+#include "Entities.h"
+
+// Pages written straight into the test's store: "dt|ampm|month|day|pagenum|favorite|text",
+// with "-" for a value left unset.
+inline void insertPages(const QStringList &rows)
+{
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    const QStringList columns{QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
+                              QStringLiteral("pagenum"), QStringLiteral("favorite"), QStringLiteral("poemprayer")};
+    for (const QString &row : rows) {
+        PoemPrayer *page = context.insertNewObject<PoemPrayer>();
+        const QStringList fields = row.split(u'|');
+        for (qsizetype i = 0; i < fields.size(); ++i) {
+            if (fields[i] != u"-")
+                page->setValueForKey(columns[i], fields[i]);
+        }
+    }
+    context.save();
+}
