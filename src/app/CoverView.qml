@@ -74,7 +74,7 @@ Page {
             id: menuButtons
             objectName: "MenuButtons"
             width: parent.width
-            spacing: controller.menuOpen ? 8 : 0
+            spacing: controller.menuOpen ? 10 : 0
             Behavior on spacing { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 
             readonly property bool listReady: Navigator.canPerform("PoemPrayerSegue")

@@ -8,6 +8,8 @@ Button {
     property bool shown: false
 
     implicitWidth: 280
+    topInset: 0
+    bottomInset: 0
     height: shown ? 46 : 0
     opacity: shown ? 1 : 0
     visible: opacity > 0

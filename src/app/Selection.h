@@ -88,7 +88,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    using QObject::QObject;
+    explicit Selection(QObject *parent = nullptr) : QObject(parent) {}
     template<typename T>
     void assign(T &field, const T &value)
     {

@@ -10,7 +10,18 @@ Dialog {
     objectName: "alertDialog"
     modal: true
     closePolicy: Popup.NoAutoClose
-    visible: Alerts.showing
+    // Deferred, so an alert raised while the window is still being built opens once it is shown.
+    function follow() {
+        if (Alerts.showing)
+            open()
+        else
+            close()
+    }
+    Component.onCompleted: Qt.callLater(follow)
+    Connections {
+        target: Alerts
+        function onCurrentChanged() { Qt.callLater(dialog.follow) }
+    }
     title: Alerts.title
     width: Math.min(parent ? parent.width - 48 : 360, 420)
 
@@ -30,6 +41,7 @@ Dialog {
                 required property int index
                 text: modelData
                 flat: true
+                font.capitalization: Font.MixedCase // the alert's own spelling ("Ok")
                 DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
                 Accessible.name: text
                 Accessible.onPressAction: clicked()

@@ -44,6 +44,6 @@ Q_SIGNALS:
     void presented(const QString &title, const QString &message);
 
 private:
-    using QObject::QObject;
+    explicit Alerts(QObject *parent = nullptr) : QObject(parent) {}
     QList<Alert> m_queue;
 };

@@ -29,6 +29,6 @@ Q_SIGNALS:
     void idiomChanged();
 
 private:
-    using QObject::QObject;
+    explicit Device(QObject *parent = nullptr) : QObject(parent) {}
     QSizeF m_windowSize;
 };

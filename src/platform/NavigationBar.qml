@@ -27,6 +27,7 @@ ToolBar {
             visible: bar.showBack
             text: qsTr("‹ Back")
             font.pixelSize: 17
+            font.capitalization: Font.MixedCase
             Accessible.name: qsTr("Back")
             Accessible.onPressAction: clicked()
             onClicked: bar.backClicked()

@@ -53,7 +53,7 @@ Q_SIGNALS:
     void failed(const QString &message);
 
 private:
-    using QObject::QObject;
+    explicit Sharing(QObject *parent = nullptr) : QObject(parent) {}
     std::optional<Request> m_request;
     std::optional<bool> m_canSendOverride;
 };

@@ -29,6 +29,7 @@ Page {
             visible: poemPrayerTextView.activeFocus
             text: qsTr("Done")
             font.pixelSize: 17
+            font.capitalization: Font.MixedCase
             Accessible.name: text
             Accessible.onPressAction: clicked()
             onClicked: poemPrayerTextView.focus = false
@@ -37,6 +38,7 @@ Page {
             objectName: "SaveButton"
             text: qsTr("Save")
             font.pixelSize: 17
+            font.capitalization: Font.MixedCase
             Accessible.name: qsTr("Save")
             Accessible.onPressAction: clicked()
             onClicked: {
@@ -129,6 +131,7 @@ Page {
             Label {
                 text: qsTr("Fav")
                 font.pixelSize: 16
+                font.capitalization: Font.MixedCase
             }
             Item { Layout.fillWidth: true }
             RowLayout {
@@ -167,6 +170,7 @@ Page {
                 objectName: "SharePoemButton"
                 text: qsTr("Text")
                 font.pixelSize: 16
+                font.capitalization: Font.MixedCase
                 Accessible.name: qsTr("Send as text message")
                 Accessible.onPressAction: clicked()
                 onClicked: controller.SharePoem()
@@ -175,6 +179,7 @@ Page {
                 objectName: "FacebookShareButton"
                 text: qsTr("Share")
                 font.pixelSize: 16
+                font.capitalization: Font.MixedCase
                 Accessible.name: qsTr("Share")
                 Accessible.onPressAction: clicked()
                 onClicked: controller.FacebookShare()
