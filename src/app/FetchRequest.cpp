@@ -29,7 +29,7 @@ Predicate Predicate::disjunction(const QList<Predicate> &subpredicates)
 }
 
 namespace {
-// A sign and digits only: what the pattern below accepts, found without running it.
+// A sign and digits only: text the pattern below accepts, recognised without running it.
 bool plainDecimal(QStringView text)
 {
     if (!text.isEmpty() && (text.front() == u'+' || text.front() == u'-'))

@@ -92,8 +92,12 @@ void TestCover::coverPageOpensAndClosesItsMenu()
     QCOMPARE(engine.rootObjects().size(), 1);
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().first());
     QVERIFY(window && QTest::qWaitForWindowExposed(window));
-    QTRY_VERIFY(Alerts::shared().showing()); // the first-launch advice
+    auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
+    QVERIFY(dialog);
+    QTRY_VERIFY(dialog->property("opened").toBool()); // the first-launch advice, in front
+    QCOMPARE(dialog->property("title").toString(), u"Initial Setup Recomendations?"_s);
     Alerts::shared().dismiss(0);
+    QTRY_VERIFY(!dialog->property("visible").toBool());
 
     auto *control = findItem(window->contentItem(), u"ControlButton"_s);
     auto *today = findItem(window->contentItem(), u"TodayButton"_s);
