@@ -22,12 +22,19 @@ Page {
     Image {
         id: img
         objectName: "img"
-        anchors.fill: parent
+        // Filled (sides cropped) on a portrait screen, whole on a wide one. The geometry, not
+        // the fill mode, does it, so the picture is drawn from its file only once.
+        readonly property size natural: Qt.size(1200, 1800)
+        readonly property real coverScale: root.width <= root.height
+            ? Math.max(root.width / natural.width, root.height / natural.height)
+            : Math.min(root.width / natural.width, root.height / natural.height)
+        anchors.centerIn: parent
+        width: natural.width * coverScale
+        height: natural.height * coverScale
         source: controller.img
-        fillMode: root.width <= root.height ? Image.PreserveAspectCrop : Image.PreserveAspectFit
-        sourceSize.height: Math.max(root.height, 1) * Screen.devicePixelRatio
+        sourceSize: natural
         smooth: true
-        asynchronous: false
+        mipmap: true
         Accessible.role: Accessible.Graphic
         Accessible.name: qsTr("The Larkwells Book cover")
     }

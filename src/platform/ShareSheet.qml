@@ -41,17 +41,18 @@ Drawer {
         }
         Repeater {
             model: [
-                { name: "copy", title: qsTr("Copy to Clipboard"), available: true },
-                { name: "file", title: qsTr("Save as Text File…"), available: true },
-                { name: "mail", title: qsTr("E-mail"), available: true },
-                { name: "sms", title: qsTr("Text Message"), available: Sharing.canSendText },
-                { name: "cancel", title: qsTr("Cancel"), available: true }
+                { name: "copy", title: qsTr("Copy to Clipboard") },
+                { name: "file", title: qsTr("Save as Text File…") },
+                { name: "mail", title: qsTr("E-mail") },
+                { name: "sms", title: qsTr("Text Message") },
+                { name: "cancel", title: qsTr("Cancel") }
             ]
             delegate: ItemDelegate {
                 required property var modelData
                 objectName: "share-" + modelData.name
                 Layout.fillWidth: true
-                visible: modelData.available
+                // Asking the desktop for a text-message handler waits until the sheet is wanted.
+                visible: modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText)
                 text: modelData.title
                 font.pixelSize: 17
                 font.bold: modelData.name === "cancel"

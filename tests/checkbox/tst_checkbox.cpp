@@ -357,7 +357,9 @@ void TestCheckbox::pointer()
     QVERIFY(QTest::qWaitForWindowExposed(scene.window.get()));
     scene.box->setCheckState(initial);
     QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
-    QPointingDevice *screen = touch ? QTest::createTouchDevice() : nullptr;
+    // One touch screen for the whole run: Qt keeps every device registered until exit.
+    static QPointingDevice *const touchScreen = QTest::createTouchDevice();
+    QPointingDevice *screen = touch ? touchScreen : nullptr;
 
     // Down, a wander outside and back, then up wherever the row says.
     const QList<QPointF> path{press, QPointF(90, 90), release};
@@ -405,11 +407,11 @@ void TestCheckbox::setFromCode_data()
 
     for (const auto &animation : M13Checkbox::Animation::all()) {
         const QString text = animation.text();
-        const auto name = [&](const char *what) { return qPrintable(text + QLatin1StringView(what)); };
-        QTest::newRow(name(", on, morphing")) << text << true << true << CheckState::Unchecked << CheckState::Checked;
-        QTest::newRow(name(", to mixed, morphing")) << text << true << true << CheckState::Checked << CheckState::Mixed;
-        QTest::newRow(name(", to mixed, not morphing")) << text << false << true << CheckState::Checked << CheckState::Mixed;
-        QTest::newRow(name(", off, not morphing")) << text << false << true << CheckState::Mixed << CheckState::Unchecked;
+        const auto name = [&](const char *what) { return (text + QLatin1StringView(what)).toUtf8(); };
+        QTest::newRow(name(", on, morphing").constData()) << text << true << true << CheckState::Unchecked << CheckState::Checked;
+        QTest::newRow(name(", to mixed, morphing").constData()) << text << true << true << CheckState::Checked << CheckState::Mixed;
+        QTest::newRow(name(", to mixed, not morphing").constData()) << text << false << true << CheckState::Checked << CheckState::Mixed;
+        QTest::newRow(name(", off, not morphing").constData()) << text << false << true << CheckState::Mixed << CheckState::Unchecked;
     }
     QTest::newRow("at once") << u"Stroke"_s << true << false << CheckState::Unchecked << CheckState::Mixed;
     QTest::newRow("same state, animated") << u"Stroke"_s << true << true << CheckState::Checked << CheckState::Checked;

@@ -1,0 +1,176 @@
+// Launch benchmark: wall time from starting a process to its exit at the first frame on screen.
+//
+//   first    larkwells --data-dir <fresh empty folder>   (seeds the whole book, then the cover)
+//   second   the same command on the folder that first launch left behind
+//   minimal  a minimal Qt Quick Controls window (the floor)
+//
+// Runs are interleaved round by round, so a busy machine slows all three alike; medians and
+// ratios are printed, of the wall time and of the processor time (user + system, the process and
+// the children it waited for), which a machine shared with other work disturbs less.
+// Aims: first <= 1.10 x second, second <= 1.5 x minimal. Nothing is asserted.
+//
+//   larkwells_launch_bench [--runs N] [--verbose] [--app PATH] [--minimal PATH]
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <spawn.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+extern char **environ;
+
+namespace {
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+struct Options {
+    int runs = 15;
+    bool verbose = false;
+    std::string app = LARKWELLS_APP_PATH;
+    std::string minimal = LARKWELLS_MINIMAL_PATH;
+};
+
+struct Timing {
+    double wall = -1; // milliseconds; < 0 when the run failed
+    double cpu = -1;
+};
+
+// Starts the command with its output discarded and waits for it.
+Timing timedRun(const std::vector<std::string> &command)
+{
+    std::vector<char *> argv;
+    for (const std::string &argument : command)
+        argv.push_back(const_cast<char *>(argument.c_str()));
+    argv.push_back(nullptr);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+
+    const auto start = Clock::now();
+    pid_t pid = 0;
+    const int spawned = posix_spawn(&pid, argv[0], &actions, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (spawned != 0) {
+        std::fprintf(stderr, "cannot start %s: %s\n", argv[0], std::strerror(spawned));
+        return {};
+    }
+    int status = 0;
+    rusage usage = {};
+    while (wait4(pid, &status, 0, &usage) < 0 && errno == EINTR) {
+    }
+    const auto end = Clock::now();
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+        std::fprintf(stderr, "%s ended abnormally (status %d)\n", argv[0], status);
+        return {};
+    }
+    const auto ms = [](const timeval &t) { return double(t.tv_sec) * 1e3 + double(t.tv_usec) / 1e3; };
+    return {std::chrono::duration<double, std::milli>(end - start).count(), ms(usage.ru_utime) + ms(usage.ru_stime)};
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    const size_t n = values.size();
+    return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
+}
+
+Options parse(int argc, char **argv)
+{
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument == "--runs" && i + 1 < argc) {
+            options.runs = std::max(1, std::atoi(argv[++i]));
+        } else if (argument == "--verbose") {
+            options.verbose = true;
+        } else if (argument == "--app" && i + 1 < argc) {
+            options.app = argv[++i];
+        } else if (argument == "--minimal" && i + 1 < argc) {
+            options.minimal = argv[++i];
+        } else {
+            std::fprintf(stderr, "usage: %s [--runs N] [--verbose] [--app PATH] [--minimal PATH]\n", argv[0]);
+            std::exit(2);
+        }
+    }
+    return options;
+}
+}
+
+int main(int argc, char **argv)
+{
+    const Options options = parse(argc, argv);
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setenv("LARKWELLS_QUIT_AFTER_FIRST_FRAME", "1", 1);
+
+    std::error_code ignored;
+    const fs::path root = fs::temp_directory_path() / ("larkwells-launch-bench-" + std::to_string(getpid()));
+    fs::remove_all(root, ignored);
+    fs::create_directories(root);
+
+    std::vector<Timing> first, second, minimal;
+    bool failed = false;
+    // Round 0 warms the caches (libraries, fonts, files) and is not counted.
+    for (int round = 0; round <= options.runs && !failed; ++round) {
+        const fs::path data = root / ("data-" + std::to_string(round));
+        const std::vector<std::string> app{options.app, "--data-dir", data.string()};
+        Timing f, s, m;
+        // The minimal window goes before, between or after the two launches in turn.
+        if (round % 3 == 0)
+            m = timedRun({options.minimal});
+        f = timedRun(app); // the folder does not exist yet: a first launch
+        if (round % 3 == 1)
+            m = timedRun({options.minimal});
+        s = timedRun(app);
+        if (round % 3 == 2)
+            m = timedRun({options.minimal});
+        failed = f.wall < 0 || s.wall < 0 || m.wall < 0;
+        if (round > 0) {
+            first.push_back(f);
+            second.push_back(s);
+            minimal.push_back(m);
+        }
+        if (options.verbose)
+            std::printf("round %2d%s: first %6.1f ms (cpu %6.1f)  second %6.1f ms (cpu %6.1f)  minimal %6.1f ms (cpu %6.1f)\n",
+                        round, round == 0 ? " (warm-up)" : "", f.wall, f.cpu, s.wall, s.cpu, m.wall, m.cpu);
+        fs::remove_all(data, ignored);
+    }
+    fs::remove_all(root, ignored);
+    if (failed) {
+        std::fprintf(stderr, "a launch failed; no results\n");
+        return 1;
+    }
+
+    std::printf("\nLaunch to first frame, %d interleaved runs each (QT_QPA_PLATFORM=%s)\n", options.runs,
+                std::getenv("QT_QPA_PLATFORM"));
+    std::printf("  %-34s %10s %9s %9s %12s\n", "", "median", "min", "max", "median cpu");
+    const auto row = [](const char *name, const std::vector<Timing> &runs) {
+        std::vector<double> wall, cpu;
+        for (const Timing &t : runs) {
+            wall.push_back(t.wall);
+            cpu.push_back(t.cpu);
+        }
+        std::printf("  %-34s %7.1f ms %6.1f ms %6.1f ms %9.1f ms\n", name, median(wall),
+                    *std::min_element(wall.begin(), wall.end()), *std::max_element(wall.begin(), wall.end()),
+                    median(cpu));
+        return std::make_pair(median(wall), median(cpu));
+    };
+    const auto [fw, fc] = row("first launch (seeds 732 pages)", first);
+    const auto [sw, sc] = row("second launch", second);
+    const auto [mw, mc] = row("minimal Qt Quick window (floor)", minimal);
+    std::printf("\n  %-18s %6s %6s   %s\n", "ratio of medians", "wall", "cpu", "aim");
+    std::printf("  %-18s %6.2f %6.2f   <= 1.10 (wall: %s)\n", "first / second", fw / sw, fc / sc,
+                fw / sw <= 1.10 ? "met" : "MISSED");
+    std::printf("  %-18s %6.2f %6.2f   <= 1.50 (wall: %s)\n", "second / minimal", sw / mw, sc / mc,
+                sw / mw <= 1.50 ? "met" : "MISSED");
+    return 0;
+}
