@@ -32,7 +32,10 @@ Page {
         width: natural.width * coverScale
         height: natural.height * coverScale
         source: controller.img
-        sourceSize: natural
+        // Drawn once, at the most the screen can show of it.
+        readonly property real drawScale: Math.min(1, Math.max(Screen.width, Screen.height)
+                                                       * Screen.devicePixelRatio / natural.height)
+        sourceSize: Qt.size(natural.width * drawScale, natural.height * drawScale)
         smooth: true
         mipmap: true
         Accessible.role: Accessible.Graphic
