@@ -131,7 +131,6 @@ Page {
             Label {
                 text: qsTr("Fav")
                 font.pixelSize: 16
-                font.capitalization: Font.MixedCase
             }
             Item { Layout.fillWidth: true }
             RowLayout {

@@ -1,5 +1,6 @@
 #include "ViewController.h"
 
+#include "Alerts.h"
 #include "AppDelegate.h"
 #include "Appearance.h"
 #include "Bundle.h"
@@ -10,7 +11,6 @@
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "Sharing.h"
-#include "Alerts.h"
 #include "UserDefaults.h"
 #include "Wallpapers.h"
 
