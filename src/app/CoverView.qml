@@ -60,13 +60,13 @@ Page {
             verticalAlignment: Text.AlignVCenter
         }
         background: Rectangle {
-            radius: 10
-            border.width: 2
+            radius: Theme.cornerRadius
+            border.width: Theme.borderWidth
             border.color: "black"
-            color: controlButton.down ? "#c9dede" : Qt.hsva(0.5, 0.06, 0.96, 0.94)
+            color: controlButton.down ? Theme.cellPressedColor : Theme.cellColor
         }
         Accessible.name: controller.menuOpen ? qsTr("Close menu") : qsTr("Menu")
-        Accessible.onPressAction: clicked()
+        Accessible.onPressAction: controlButton.clicked()
         onClicked: controller.HandleSelection()
     }
 

@@ -5,8 +5,8 @@
 #include "Log.h"
 #include "Navigator.h"
 #include "PageFile.h"
+#include "PreferenceKeys.h"
 #include "Selection.h"
-#include "UserDefaults.h"
 #include "Wallpapers.h"
 
 using namespace Qt::StringLiterals;
@@ -23,13 +23,11 @@ QUrl CoverViewController::img() const
 
 void CoverViewController::viewDidLoad()
 {
-    UserDefaults &userDefaults = UserDefaults::standard();
-    if (userDefaults.boolForKey(hasBeenLaunchedBeforeFlag)) {
+    if (Preferences::boolForKey(PreferenceKeys::hasBeenLaunchedBeforeFlag)) {
         Log::line(u"Not First Launch"_s);
     } else {
         // Set before seeding: a seeding that fails is not tried again on a later launch.
-        userDefaults.set(hasBeenLaunchedBeforeFlag, true);
-        userDefaults.synchronize();
+        Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
         Log::line(u"First Launch"_s);
         m_seeding.clearPoemPrayers();
         m_seeding.loadPoemPrayers(PageFile::columns);

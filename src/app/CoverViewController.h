@@ -43,7 +43,6 @@ private:
     void openList(const QString &selectedList);
     void flipMenu();
 
-    const QString hasBeenLaunchedBeforeFlag = QStringLiteral("hasBeenLaunchedBeforeFlag");
     PageSeeding m_seeding;
     bool m_menuOpen = false;
     bool m_ImportExportButtonHidden = true;

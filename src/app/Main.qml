@@ -14,8 +14,8 @@ ApplicationWindow {
     visible: true
     title: qsTr("The Larkwells Book")
     Material.theme: Material.Light
-    Material.accent: "#0d2699"
-    Material.primary: "#0d2699"
+    Material.accent: Theme.tint
+    Material.primary: Theme.tint
 
     onWidthChanged: Device.windowSize = Qt.size(width, height)
     onHeightChanged: Device.windowSize = Qt.size(width, height)

@@ -15,6 +15,7 @@ Button {
     visible: opacity > 0
     clip: true
     font.pixelSize: 18
+    focusPolicy: Qt.StrongFocus
     Behavior on height { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
     Behavior on opacity { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 
@@ -26,11 +27,13 @@ Button {
         verticalAlignment: Text.AlignVCenter
     }
     background: Rectangle {
-        radius: 10
-        border.width: 2
-        border.color: "black"
-        color: button.down ? "#c9dede" : Qt.hsva(0.5, 0.06, 0.96, 0.94)
+        radius: Theme.cornerRadius
+        border.width: button.visualFocus ? Theme.borderWidth + 1 : Theme.borderWidth
+        border.color: button.visualFocus ? Theme.tint : Theme.border
+        color: button.down ? Theme.cellPressedColor : Theme.cellColor
     }
+    // A closed menu's buttons are neither listed nor pressable by a screen reader.
     Accessible.name: text
-    Accessible.onPressAction: clicked()
+    Accessible.ignored: !visible
+    Accessible.onPressAction: if (button.visible && button.enabled) button.clicked()
 }

@@ -1,26 +1,27 @@
 #include "ReviewPrompt.h"
 
+#include "PreferenceKeys.h"
 #include "ReviewRequest.h"
-#include "UserDefaults.h"
-
-using namespace Qt::StringLiterals;
 
 void ReviewPrompt::run(const std::optional<QString> &currentVersion)
 {
+    const QString &countKey = PreferenceKeys::reviewWorthyActionCount.name;
+    const QString &versionKey = PreferenceKeys::lastReviewRequestAppVersion.name;
     UserDefaults &defaults = UserDefaults::standard();
-    const qint64 count = defaults.integerForKey(u"reviewWorthyActionCount"_s) + 1;
-    defaults.set(u"reviewWorthyActionCount"_s, count);
+    // Missing or odd values read as 0 or absent: the prompt never stops the app.
+    const qint64 count = defaults.integerForKey(countKey) + 1;
+    defaults.set(countKey, count);
     if (count < 3)
         return;
-    const std::optional<QString> last = defaults.stringForKey(u"lastReviewRequestAppVersion"_s);
+    const std::optional<QString> last = defaults.stringForKey(versionKey);
     if (currentVersion && last && *currentVersion == *last)
         return;
     // The platform decides whether to show it; without a window scene nothing is asked.
     ReviewRequest::requestInFirstWindowScene();
-    QList<std::pair<QString, QVariant>> values{{u"reviewWorthyActionCount"_s, 0}};
+    QList<std::pair<QString, QVariant>> values{{countKey, 0}};
     if (currentVersion)
-        values.append({u"lastReviewRequestAppVersion"_s, *currentVersion});
+        values.append({versionKey, *currentVersion});
     else
-        defaults.removeObject(u"lastReviewRequestAppVersion"_s);
+        defaults.removeObject(versionKey);
     defaults.setValues(values);
 }

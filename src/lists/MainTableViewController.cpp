@@ -1,13 +1,12 @@
 #include "MainTableViewController.h"
 
 #include "AppDelegate.h"
-#include "Appearance.h"
-#include "Bundle.h"
+#include "Clock.h"
 #include "FatalError.h"
 #include "Fonts.h"
+#include "Log.h"
 #include "Navigator.h"
 #include "Selection.h"
-#include "Wallpapers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +18,7 @@ FetchRequest requestForSegment(int segment)
     switch (segment) {
     case 0: {
         // Today by the calendar date alone: both pages of the day, morning first.
-        const QDate today = MainTableViewController::currentDate();
+        const QDate today = Clock::today();
         request.predicate = Predicate::conjunction({Predicate::equals(u"month"_s, QString::number(today.month())),
                                                     Predicate::equals(u"day"_s, QString::number(today.day()))});
         request.sortDescriptors = {{u"ampm"_s}, {u"day"_s}};
@@ -62,23 +61,12 @@ void MainTableViewController::setSegmentIndex(int index)
     Q_EMIT segmentIndexChanged();
 }
 
-QUrl MainTableViewController::wallpaper() const
-{
-    if (m_ListWallpaperVisible != 1)
-        return {};
-    return Bundle::main().imageUrl(Wallpapers::PMWallpaper().value(m_PMRandomNumberGen));
-}
-
 void MainTableViewController::viewDidLoad()
 {
-    m_PMRandomNumberGen = Wallpapers::draw(Wallpapers::PMWallpaper(), 34, m_PMRandomNumberGen);
+    m_appearance.drawWallpaper();
     const QString selectedList = Selection::shared().selectedList();
     setSegmentIndex(selectedList == u"AM"_s ? 2 : selectedList == u"PM"_s ? 3 : selectedList == u"FAV"_s ? 4 : 0);
-    const ListAppearance appearance = ListAppearance::read();
-    m_ListFontName = appearance.ListFontName;
-    m_ListFontSize = appearance.ListFontSize;
-    m_ListWallpaperVisible = appearance.ListWallpaperVisible;
-    Q_EMIT appearanceChanged();
+    m_appearance.read();
     fetch();
 }
 
@@ -99,7 +87,7 @@ void MainTableViewController::fetch()
     const QList<PoemPrayer *> pages =
         AppDelegate::shared().viewContext().fetch<PoemPrayer>(requestForSegment(m_segmentIndex), &error);
     if (!pages.isEmpty())
-        Fonts::requireKnown(m_ListFontName);
+        Fonts::requireKnown(m_appearance.ListFontName());
     m_PoemList.setPages(pages);
 }
 
@@ -120,4 +108,15 @@ void MainTableViewController::didSelectRowAt(int row)
     selection.setSelectedPagenum(page->pagenum());
     selection.setSelectedFavorite(page->favorite() == u"T"_s ? u"T"_s : u"F"_s);
     Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+}
+
+void MainTableViewController::FavoriteCheckBoxChanged(int row, int checkState)
+{
+    PoemPrayer *page = m_PoemList.pages().value(row);
+    if (!page)
+        return;
+    page->setFavorite(checkState == 1 ? u"T"_s : u"F"_s);
+    if (const auto error = AppDelegate::shared().viewContext().save())
+        Log::line(error->unresolvedMessage());
+    m_PoemList.refreshRow(row);
 }

@@ -6,9 +6,22 @@ using namespace Qt::StringLiterals;
 
 void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
 {
+    // The same rows again (back from the reader): refresh them in place, so the list keeps
+    // its scroll position.
+    if (pages == m_pages) {
+        if (!m_pages.isEmpty())
+            Q_EMIT dataChanged(index(0), index(int(m_pages.size()) - 1));
+        return;
+    }
     beginResetModel();
     m_pages = pages;
     endResetModel();
+}
+
+void PoemPrayerListModel::refreshRow(int row)
+{
+    if (row >= 0 && row < m_pages.size())
+        Q_EMIT dataChanged(index(row), index(row));
 }
 
 int PoemPrayerListModel::rowCount(const QModelIndex &parent) const

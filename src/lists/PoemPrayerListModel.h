@@ -3,12 +3,15 @@
 #include "Entities.h"
 
 #include <QAbstractListModel>
+#include <QQmlEngine>
 
 // The pages a list shows, with the texts of their cells: the date, the "Good Morning"/"Good Night"
 // page label with its number, and whether the favourite box is ticked.
 class PoemPrayerListModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("A list screen owns its rows")
 
 public:
     enum Role { DateLabelRole = Qt::UserRole + 1, PageLabelRole, FavoriteCheckedRole };
@@ -17,6 +20,8 @@ public:
 
     void setPages(const QList<PoemPrayer *> &pages);
     const QList<PoemPrayer *> &pages() const { return m_pages; }
+    // The row's page changed (its favourite mark, say).
+    void refreshRow(int row);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;

@@ -39,12 +39,13 @@ Dialog {
             delegate: Button {
                 required property string modelData
                 required property int index
+                objectName: "alertButton-" + modelData
                 text: modelData
                 flat: true
                 font.capitalization: Font.MixedCase // the alert's own spelling ("Ok")
                 DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
                 Accessible.name: text
-                Accessible.onPressAction: clicked()
+                Accessible.onPressAction: if (visible && enabled) clicked()
                 onClicked: Alerts.dismiss(index)
             }
         }

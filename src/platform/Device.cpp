@@ -1,7 +1,11 @@
 #include "Device.h"
 
+#include "Log.h"
+
 #include <QGuiApplication>
 #include <QScreen>
+
+using namespace Qt::StringLiterals;
 
 Device &Device::shared()
 {
@@ -33,4 +37,13 @@ void Device::setWindowSize(const QSizeF &size)
         return;
     m_windowSize = size;
     Q_EMIT idiomChanged();
+}
+
+int Device::deviceid() const
+{
+    switch (idiom()) {
+    case Phone: return 1;
+    case Tablet: Log::line(u"iPad"_s); return 2;
+    default: Log::line(u"Not Possible"_s); return 0;
+    }
 }

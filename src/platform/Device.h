@@ -22,6 +22,9 @@ public:
     static Device *create(QQmlEngine *, QJSEngine *);
 
     Idiom idiom() const;
+    // What a screen keeps as its `deviceid`: 1 on a phone, 2 on a tablet (logging "iPad"),
+    // otherwise 0 (logging "Not Possible").
+    int deviceid() const;
     QSizeF windowSize() const { return m_windowSize; }
     void setWindowSize(const QSizeF &size);
 

@@ -35,10 +35,6 @@ QString typeName(QMetaType::Type type)
     }
 }
 
-QString wrongType(const QString &key, const char *wanted)
-{
-    return u"Fatal error: the setting \"%1\" holds a value that is not %2"_s.arg(key, QLatin1String(wanted));
-}
 }
 
 UserDefaults &UserDefaults::standard()
@@ -187,34 +183,4 @@ void UserDefaults::removeObject(const QString &key)
 {
     if (m_values.remove(key))
         write();
-}
-
-std::optional<qint64> Preferences::integerIfPresent(const QString &key)
-{
-    const auto type = UserDefaults::standard().typeOf(key);
-    if (!type)
-        return std::nullopt;
-    if (*type != UserDefaults::Type::Integer)
-        fatalError(wrongType(key, "an integer"));
-    return UserDefaults::standard().integerForKey(key);
-}
-
-std::optional<double> Preferences::doubleIfPresent(const QString &key)
-{
-    const auto type = UserDefaults::standard().typeOf(key);
-    if (!type)
-        return std::nullopt;
-    if (*type != UserDefaults::Type::Double && *type != UserDefaults::Type::Integer)
-        fatalError(wrongType(key, "a number"));
-    return UserDefaults::standard().doubleForKey(key);
-}
-
-std::optional<QString> Preferences::stringIfPresent(const QString &key)
-{
-    const auto type = UserDefaults::standard().typeOf(key);
-    if (!type)
-        return std::nullopt;
-    if (*type != UserDefaults::Type::String)
-        fatalError(wrongType(key, "a string"));
-    return UserDefaults::standard().stringForKey(key);
 }

@@ -49,11 +49,3 @@ private:
     QString m_filePath;
     QHash<QString, QVariant> m_values;
 };
-
-// Typed reads of settings: a present value of the wrong type is a fatal error, an absent one
-// gives the default. Integers count as reals (the settings screen stores whole sizes).
-namespace Preferences {
-std::optional<qint64> integerIfPresent(const QString &key);
-std::optional<double> doubleIfPresent(const QString &key);
-std::optional<QString> stringIfPresent(const QString &key);
-}

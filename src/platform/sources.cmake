@@ -2,6 +2,7 @@
 list(APPEND LARKWELLS_SOURCES
     platform/Alerts.h platform/Alerts.cpp
     platform/Bundle.h platform/Bundle.cpp
+    platform/Clock.h platform/Clock.cpp
     platform/Device.h platform/Device.cpp
     platform/FatalError.h platform/FatalError.cpp
     platform/Fonts.h platform/Fonts.cpp
@@ -13,6 +14,5 @@ list(APPEND LARKWELLS_SOURCES
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
-    platform/NavigationBar.qml
     platform/ShareSheet.qml
 )

@@ -2,17 +2,13 @@
 
 #include "Alerts.h"
 #include "AppDelegate.h"
-#include "Appearance.h"
 #include "Bundle.h"
-#include "Device.h"
-#include "Fonts.h"
 #include "Log.h"
+#include "Device.h"
 #include "Navigator.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "Sharing.h"
-#include "UserDefaults.h"
-#include "Wallpapers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,40 +38,23 @@ void ViewController::viewDidLoad()
 {
     m_title = u"View Poems/Prayers"_s;
     // The reader's first draw may reach the last wallpaper; redraws never do.
-    m_ViewerRandomNumberGen = Wallpapers::draw(Wallpapers::ViewerWallpaper(), 35, m_ViewerRandomNumberGen);
-
-    switch (Device::shared().idiom()) {
-    case Device::Phone: m_deviceid = 1; break;
-    case Device::Tablet: m_deviceid = 2; Log::line(u"iPad"_s); break;
-    default: Log::line(u"Not Possible"_s);
-    }
-
-    const ReaderAppearance appearance = ReaderAppearance::read();
-    m_FontName = appearance.FontName;
-    m_ReaderFontSize = appearance.ReaderFontSize;
-    const qint64 textColor = appearance.textColor.value_or(0);
-    if (appearance.useWallpaper == 1)
-        m_wallpaper = Bundle::main().imageUrl(Wallpapers::ViewerWallpaper().value(m_ViewerRandomNumberGen));
+    m_appearance.drawWallpaper(35);
+    m_deviceid = Device::shared().deviceid();
+    m_appearance.read();
 
     Selection &selection = Selection::shared();
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
     selection.setSelectedPoemPrayer(m_CombinedText);
 
     // Another colour code leaves the text view as laid out: empty, in the default look.
-    if (const auto color = textColorFor(textColor)) {
-        m_styled = true;
-        m_textColor = *color;
-        m_fontSize = m_ReaderFontSize;
-        Fonts::requireKnown(m_FontName);
+    if (m_appearance.applyTextColor())
         setPoemPrayerText(selection.selectedPoemPrayer());
-    }
 
     if (selection.selectedAmpm() == u"AM"_s)
         m_title = u"Good Morning"_s;
     else if (selection.selectedAmpm() == u"PM"_s)
         m_title = u"Good Night"_s;
     Q_EMIT loaded();
-    Q_EMIT fontSizeChanged();
 
     if (selection.selectedFavorite() == u"T"_s)
         Q_EMIT favoriteCheckStateRequested(1, true);
@@ -119,20 +98,12 @@ void ViewController::save()
 
 void ViewController::ChangeFontSize(double value)
 {
-    if (value > m_ReaderFontSize)
-        m_fontSize += 1;
-    else if (value < m_ReaderFontSize)
-        m_fontSize -= 1;
-    m_ReaderFontSize = value;
-    UserDefaults::standard().set(u"ReaderFontSize"_s, value);
-    UserDefaults::standard().synchronize();
-    Q_EMIT fontSizeChanged();
+    m_appearance.ChangeFontSize(value);
 }
 
 void ViewController::HandlePinch(double scale)
 {
-    m_zoom *= scale;
-    Q_EMIT zoomChanged();
+    m_appearance.HandlePinch(scale);
 }
 
 void ViewController::SharePoem()

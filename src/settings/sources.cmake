@@ -1,4 +1,4 @@
 # Sources of this subsystem, relative to src/.
 list(APPEND LARKWELLS_SOURCES
-    settings/Appearance.h settings/Appearance.cpp
+    settings/PreferenceKeys.h settings/PreferenceKeys.cpp
 )

@@ -1,3 +1,4 @@
+#include "Clock.h"
 #include "FatalError.h"
 #include "MainTableViewController.h"
 #include "Navigator.h"
@@ -77,7 +78,7 @@ void TestPageList::listsTheChosenView()
     QFETCH(QStringList, rows);
     TestEnvironment environment;
     insertPages(book);
-    MainTableViewController::currentDate = [today] { return today; };
+    Clock::set([today] { return QDateTime(today, QTime(12, 0)); });
     Selection::shared().setSelectedList(selectedList);
 
     MainTableViewController controller;
@@ -86,9 +87,9 @@ void TestPageList::listsTheChosenView()
 
     QCOMPARE(controller.segmentIndex(), segment);
     QCOMPARE(rowsOf(*controller.PoemList()), rows);
-    QCOMPARE(controller.ListFontName(), u"Arial"_s);
-    QCOMPARE(controller.ListFontSize(), 15.0);
-    QVERIFY(controller.wallpaper().isEmpty());
+    QCOMPARE(controller.appearance()->ListFontName(), u"Arial"_s);
+    QCOMPARE(controller.appearance()->ListFontSize(), 15.0);
+    QVERIFY(controller.appearance()->wallpaper().isEmpty());
 }
 
 void TestPageList::segmentChangeAndReappearanceRefetch()
@@ -98,7 +99,7 @@ void TestPageList::segmentChangeAndReappearanceRefetch()
     UserDefaults::standard().set(u"ListWallpaperVisible"_s, 1);
     MainTableViewController controller;
     controller.viewDidLoad();
-    QCOMPARE(controller.wallpaper().fileName(), u"AM-36.svg"_s); // no wallpaper key yet: the first one
+    QCOMPARE(controller.appearance()->wallpaper().fileName(), u"AM-36.svg"_s); // no wallpaper key yet: the first one
 
     controller.segmentedControlAction(1);
     QCOMPARE(controller.PoemList()->rowCount(), 5);

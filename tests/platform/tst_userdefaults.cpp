@@ -1,4 +1,5 @@
 #include "FatalError.h"
+#include "PreferenceKeys.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
@@ -78,19 +79,22 @@ void TestUserDefaults::wrongTypeIsFatal()
     QFETCH(bool, fatal);
     TestEnvironment environment;
     UserDefaults::standard().set(u"key"_s, stored);
-    bool stopped = false;
+    const PreferenceKey key{u"key"_s, UserDefaults::Type::Integer, {}};
+    QString message;
     try {
         if (reader == 0)
-            Preferences::integerIfPresent(u"key"_s);
+            Preferences::integerIfPresent(key);
         else if (reader == 1)
-            Preferences::doubleIfPresent(u"key"_s);
+            Preferences::doubleIfPresent(key);
         else
-            Preferences::stringIfPresent(u"key"_s);
-    } catch (const FatalErrorException &) {
-        stopped = true;
+            Preferences::stringIfPresent(key);
+    } catch (const FatalErrorException &error) {
+        message = error.message();
     }
-    QCOMPARE(stopped, fatal);
-    QVERIFY(!Preferences::integerIfPresent(u"absent"_s));
+    QCOMPARE(!message.isEmpty(), fatal);
+    if (fatal)
+        QVERIFY2(message.startsWith(u"Fatal error: the setting \"key\" holds a value that is not "_s), qPrintable(message));
+    QVERIFY(!Preferences::integerIfPresent(PreferenceKey{u"absent"_s, UserDefaults::Type::Integer, {}}));
 }
 
 void TestUserDefaults::damagedFileIsKeptAside()

@@ -14,11 +14,11 @@ namespace {
 QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
 {
     QQuickItem *item = nullptr;
-    QTest::qWaitFor([&] {
+    const bool shown = QTest::qWaitFor([&] {
         item = findVisibleItem(window->contentItem(), name);
         return item && item->width() > 0 && item->height() > 20; // slid open, laid out
-    }, 3000);
-    return item;
+    }, 15000);
+    return shown ? item : nullptr;
 }
 
 void click(QQuickWindow *window, QQuickItem *item)
@@ -66,6 +66,7 @@ void TestJourney::coverListReaderAndBack()
     click(window, waitForItem(window, u"GoodMorningButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QQuickItem *firstRow = waitForItem(window, u"row-0"_s);
+    QVERIFY(firstRow);
     QCOMPARE(firstRow->property("dateText").toString(), u"January 1"_s);
     QCOMPARE(firstRow->property("pageText").toString(), u"Good Morning:   Page#  1"_s);
     QVERIFY(waitForItem(window, u"row-1"_s)); // the second morning page, not the night one
@@ -74,6 +75,7 @@ void TestJourney::coverListReaderAndBack()
     click(window, firstRow);
     QTRY_COMPARE(topPage(window), u"View"_s);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QVERIFY(text);
     QCOMPARE(text->property("text").toString(),
              u"\nFrom The Larkwells\n Good Morning\n\nJanuary 1\n\nSnow on the sill\nand bread on the table"_s);
 

@@ -131,13 +131,13 @@ void TestReader::appearanceFromPreferences()
         return;
     }
     QVERIFY(!fatal);
-    QCOMPARE(controller.styled(), styled);
+    QCOMPARE(controller.appearance()->styled(), styled);
     QCOMPARE(controller.PoemPrayerText().isEmpty(), !styled);
     if (styled) {
-        QCOMPARE(controller.textColor(), color);
-        QCOMPARE(controller.fontSize(), size);
+        QCOMPARE(controller.appearance()->textColor(), color);
+        QCOMPARE(controller.appearance()->fontSize(), size);
     }
-    QCOMPARE(controller.wallpaper().fileName(), wallpaper);
+    QCOMPARE(controller.appearance()->wallpaper().fileName(), wallpaper);
 }
 
 void TestReader::favouriteSavesExactlyOnePage_data()
@@ -181,15 +181,15 @@ void TestReader::stepperMovesOnePointAndStoresTheSize()
     ViewController controller;
     controller.viewDidLoad();
     controller.ChangeFontSize(16);
-    QCOMPARE(controller.fontSize(), 16.0);
+    QCOMPARE(controller.appearance()->fontSize(), 16.0);
     QCOMPARE(UserDefaults::standard().typeOf(u"ReaderFontSize"_s), UserDefaults::Type::Double);
     QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 16.0);
     controller.ChangeFontSize(26); // a bigger step still moves the text one point
-    QCOMPARE(controller.fontSize(), 17.0);
+    QCOMPARE(controller.appearance()->fontSize(), 17.0);
     controller.ChangeFontSize(20);
-    QCOMPARE(controller.fontSize(), 16.0);
+    QCOMPARE(controller.appearance()->fontSize(), 16.0);
     controller.ChangeFontSize(20);
-    QCOMPARE(controller.fontSize(), 16.0);
+    QCOMPARE(controller.appearance()->fontSize(), 16.0);
 }
 
 void TestReader::wallpaperDrawBounds_data()

@@ -2,6 +2,7 @@
 
 #include "AppDelegate.h"
 #include "Bundle.h"
+#include "Clock.h"
 #include "FatalError.h"
 #include "Log.h"
 #include "PersistentContainer.h"
@@ -35,6 +36,7 @@ TestEnvironment::~TestEnvironment()
 {
     AppDelegate::shared().reset();
     Log::setSink({});
+    Clock::set({});
 }
 
 void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes)

@@ -5,6 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The bar at the top of a screen: a back button, a title (or a title item) and trailing buttons.
+// Escape, Alt+Left and the platform's Back key do what the back button does.
 ToolBar {
     id: bar
     property string title
@@ -14,22 +15,25 @@ ToolBar {
     default property alias trailing: trailingRow.data
     signal backClicked()
 
-    Material.background: Qt.hsva(0.5, 0.06, 0.96, 1)
+    Material.background: Theme.cellColor
     Material.foreground: "black"
+
+    Shortcut {
+        sequences: [StandardKey.Back, "Esc", "Alt+Left"]
+        enabled: bar.showBack && bar.visible
+        onActivated: bar.backClicked()
+    }
 
     RowLayout {
         anchors.fill: parent
         anchors.leftMargin: 4
         anchors.rightMargin: 4
         spacing: 4
-        ToolButton {
+        BarButton {
             objectName: "backButton"
             visible: bar.showBack
             text: qsTr("‹ Back")
-            font.pixelSize: 17
-            font.capitalization: Font.MixedCase
             Accessible.name: qsTr("Back")
-            Accessible.onPressAction: clicked()
             onClicked: bar.backClicked()
         }
         Item {
@@ -41,7 +45,7 @@ ToolBar {
                 width: Math.min(implicitWidth, parent.width)
                 visible: centerSlot.children.length === 1
                 text: bar.title
-                font.pixelSize: 18
+                font.pixelSize: Theme.titleFontSize
                 font.bold: true
                 elide: Text.ElideRight
                 Accessible.role: Accessible.Heading

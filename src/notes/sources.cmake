@@ -1,0 +1,3 @@
+# Sources of this subsystem, relative to src/.
+list(APPEND LARKWELLS_SOURCES
+)

@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Controls
+import Larkwells
+
+// A row of a list: the shared card look, at least `rowHeight` high and taller when its text
+// needs it, with the list wallpaper when given.
+ItemDelegate {
+    id: cell
+    property url wallpaper
+    property real rowHeight: 65
+    height: Math.max(rowHeight, implicitHeight)
+    padding: 10
+    leftPadding: 14
+    rightPadding: 14
+    topInset: 2
+    bottomInset: 2
+    focusPolicy: Qt.NoFocus
+    background: CellBackground {
+        wallpaper: cell.wallpaper
+        pressed: cell.down
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.cornerRadius
+            color: "transparent"
+            border.width: Theme.focusRingWidth + 1
+            border.color: Theme.tint
+            visible: cell.ListView.isCurrentItem && cell.ListView.view.activeFocus
+        }
+    }
+    Accessible.ignored: !visible
+    Accessible.onPressAction: if (cell.visible && cell.enabled) cell.clicked()
+}

@@ -1,0 +1,108 @@
+import QtQuick
+import QtQuick.Controls
+import Larkwells
+
+// A reader's page: the styled, scrolling text over the reader's wallpaper, which runs behind
+// the whole text however long. Pinch zooms; Ctrl with the wheel, plus or minus asks for the
+// next text size as the stepper would. Tab leaves the text instead of typing a tab.
+Flickable {
+    id: surface
+    required property ReaderAppearance appearance
+    property alias text: textView.text
+    property alias textFormat: textView.textFormat
+    property alias readOnly: textView.readOnly
+    property alias textView: textView
+    property string accessibleName
+    // The reader asks for one step up (1) or down (-1) of the text size.
+    signal sizeStepRequested(int direction)
+    signal pinched(real scale)
+
+    function endEditing() { textView.focus = false }
+
+    contentWidth: width
+    contentHeight: Math.max(height, textView.implicitHeight * appearance.zoom)
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+    ScrollBar.vertical: ScrollBar {}
+
+    Image {
+        objectName: "img"
+        width: surface.width
+        height: surface.contentHeight
+        source: surface.appearance.wallpaper
+        fillMode: Image.PreserveAspectCrop
+        sourceSize.width: Math.min(1600, surface.width * Screen.devicePixelRatio)
+        asynchronous: true
+        visible: status === Image.Ready
+    }
+
+    TextArea {
+        id: textView
+        objectName: "PoemPrayerTextView"
+        width: surface.width
+        scale: surface.appearance.zoom
+        transformOrigin: Item.Top
+        z: 1
+        textFormat: TextEdit.PlainText
+        wrapMode: TextEdit.Wrap
+        horizontalAlignment: surface.appearance.styled ? TextEdit.AlignHCenter : TextEdit.AlignLeft
+        color: surface.appearance.textColor
+        font.family: surface.appearance.styled ? surface.appearance.FontName : Qt.application.font.family
+        font.pixelSize: surface.appearance.fontSize
+        topPadding: 8
+        bottomPadding: 48
+        leftPadding: 20
+        rightPadding: 20
+        selectByMouse: true
+        persistentSelection: false
+        activeFocusOnTab: true
+        background: Rectangle {
+            color: "transparent"
+            border.width: textView.visualFocus ? Theme.focusRingWidth : 0
+            border.color: Theme.tint
+        }
+        Accessible.role: Accessible.EditableText
+        Accessible.name: surface.accessibleName
+        Accessible.description: text
+
+        Keys.onTabPressed: event => {
+            const next = textView.nextItemInFocusChain(true)
+            if (next)
+                next.forceActiveFocus(Qt.TabFocusReason)
+        }
+        Keys.onBacktabPressed: event => {
+            const previous = textView.nextItemInFocusChain(false)
+            if (previous)
+                previous.forceActiveFocus(Qt.BacktabFocusReason)
+        }
+    }
+
+    Shortcut {
+        sequences: [StandardKey.ZoomIn, "Ctrl+="]
+        enabled: surface.visible
+        onActivated: surface.sizeStepRequested(1)
+    }
+    Shortcut {
+        sequences: [StandardKey.ZoomOut]
+        enabled: surface.visible
+        onActivated: surface.sizeStepRequested(-1)
+    }
+
+    WheelHandler {
+        acceptedModifiers: Qt.ControlModifier
+        target: null
+        onWheel: event => surface.sizeStepRequested(event.angleDelta.y > 0 ? 1 : -1)
+    }
+    TapHandler {
+        onTapped: surface.endEditing()
+    }
+    PinchHandler {
+        target: null
+        property real lastScale: 1
+        onActiveChanged: lastScale = 1
+        onActiveScaleChanged: {
+            surface.pinched(activeScale / lastScale)
+            lastScale = activeScale
+        }
+    }
+}

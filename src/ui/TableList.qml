@@ -1,0 +1,54 @@
+import QtQuick
+import QtQuick.Controls
+import Larkwells
+
+// A list screen's table: the rows over white, a scroll bar, a quiet line when it is empty, and
+// the keyboard (Up/Down move, Enter or Space opens the row). It remembers the row that was
+// opened and keeps it in view when the screen comes back.
+ListView {
+    id: table
+    property string emptyText
+    property int chosenRow: -1
+    // The row the user opened; the screen calls this before it opens the row.
+    function remember(row: int) {
+        chosenRow = row
+        currentIndex = row
+    }
+    // Back on the screen: the opened row stays where the reader left it, and in view.
+    function restore() {
+        if (chosenRow >= 0 && chosenRow < count)
+            positionViewAtIndex(chosenRow, ListView.Contain)
+    }
+
+    anchors.margins: 6
+    clip: true
+    cacheBuffer: 650
+    reuseItems: true
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    keyNavigationEnabled: true
+    highlightFollowsCurrentItem: false
+    currentIndex: -1
+    ScrollBar.vertical: ScrollBar {}
+    Accessible.role: Accessible.List
+
+    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+    Keys.onReturnPressed: openCurrent()
+    Keys.onEnterPressed: openCurrent()
+    Keys.onSpacePressed: openCurrent()
+    function openCurrent() {
+        if (currentItem && currentItem.clicked)
+            currentItem.clicked()
+    }
+
+    Label {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: table.count === 0 && table.emptyText.length > 0
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
+        font.pixelSize: 17
+        color: Theme.quietText
+        text: table.emptyText
+    }
+}
