@@ -317,7 +317,6 @@ const M13CheckboxController::Effect StrokeEffect{
 
 // The rim takes the tint first, the tint closes in on the centre, then the mark is drawn on in white.
 const M13CheckboxController::Effect FillEffect{
-    .box = {},
     .mark = {.undrawn = true},
     .boxIn = {Motion::Morph, 0, 0.7, {{0.2, Motion::Fade}}},
     .markIn = {Motion::Draw, 0.5, 1},

@@ -29,12 +29,12 @@ public:
     // What a layer gives up to be hidden; everything else stays as it is shown.
     struct Hiding
     {
-        bool undrawn = false;                  // no stroke drawn yet and nothing inside
-        std::optional<QPointF> squeezed;       // the path scaled about the centre by x and y
-        qreal scale = 1;                       // the whole layer, line included
-        qreal rotation = 0;
-        bool faded = false;                    // opacity 0
-        std::optional<qreal> lineWidth;
+        bool undrawn = false;                 // no stroke drawn yet and nothing inside
+        std::optional<QPointF> squeezed = {}; // the path scaled about the centre by x and y
+        qreal scale = 1;                      // the whole layer, line included
+        qreal rotation = 0;                   // degrees
+        bool faded = false;                   // opacity 0
+        std::optional<qreal> lineWidth = {};
     };
 
     // How a layer comes in between two fractions of the change. With `reveal`, the hidden look
@@ -51,13 +51,13 @@ public:
         Motion motion;
         qreal begin;
         qreal end;
-        std::optional<Reveal> reveal;
+        std::optional<Reveal> reveal = {};
     };
 
     struct Effect
     {
-        Hiding box;
-        Hiding mark;
+        Hiding box = {};
+        Hiding mark = {};
         Entrance boxIn;
         Entrance markIn;
         // Between a checkmark and a bar, when morphing.
