@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -84,6 +85,7 @@ void placeWindow(QQuickWindow *window, const QString &dataDirectory)
 {
     const QRect available = window->screen()->availableGeometry();
     if (std::min(available.width(), available.height()) < 600) {
+        window->setGeometry(window->screen()->geometry()); // for a compositor that ignores the state
         window->showFullScreen();
         return;
     }
@@ -91,10 +93,16 @@ void placeWindow(QQuickWindow *window, const QString &dataDirectory)
     const QRect saved = QSettings(file, QSettings::IniFormat).value(u"geometry"_s).toRect();
     if (saved.isValid() && QGuiApplication::screenAt(saved.center()))
         window->setGeometry(saved);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, window, [window, file] {
+    // Quitting hides the window before aboutToQuit, so the last windowed geometry is kept as it changes.
+    auto last = std::make_shared<QRect>(window->geometry());
+    const auto keep = [window, last] {
         if (window->visibility() == QWindow::Windowed)
-            QSettings(file, QSettings::IniFormat).setValue(u"geometry"_s, window->geometry());
-    });
+            *last = window->geometry();
+    };
+    for (const auto changed : {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
+        QObject::connect(window, changed, window, keep);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, window,
+                     [file, last] { QSettings(file, QSettings::IniFormat).setValue(u"geometry"_s, *last); });
 }
 }
 
