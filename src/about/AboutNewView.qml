@@ -16,6 +16,7 @@ Page {
         title: root.title
         onBackClicked: controller.BackToSpecialDays()
         BarButton {
+            id: saveButton
             objectName: "SaveButton"
             text: qsTr("Save")
             onClicked: controller.SaveAboutItem(nameField.text, textView.text)
@@ -65,7 +66,7 @@ Page {
                 Accessible.role: Accessible.EditableText
                 Accessible.name: qsTr("Text")
                 // Tab leaves the text rather than typing a tab.
-                KeyNavigation.tab: nameField
+                KeyNavigation.tab: saveButton
                 KeyNavigation.backtab: nameField
             }
         }
