@@ -20,8 +20,6 @@ private Q_SLOTS:
     void firstVisitSeeds();
     void threeFieldsStop();
     void secondVisitLeavesTheTable();
-    void choosingAnIncompleteArticleStops_data();
-    void choosingAnIncompleteArticleStops();
     void headings_data();
     void headings();
     void savingRepeatsTheHeading();
@@ -100,34 +98,6 @@ void TestAbout::secondVisitLeavesTheTable()
     QCOMPARE(environment.logLines, QStringList{u"Not First Launch"_s});
     QVERIFY(storedAbouts().isEmpty());
     QVERIFY(second.AboutNames().isEmpty());
-}
-
-void TestAbout::choosingAnIncompleteArticleStops_data()
-{
-    QTest::addColumn<QString>("row");
-    QTest::addColumn<bool>("fatal");
-    QTest::newRow("no name") << u"-|text"_s << true;
-    QTest::newRow("no text") << u"Name|-"_s << true;
-    QTest::newRow("both") << u"Name|text"_s << false;
-}
-
-void TestAbout::choosingAnIncompleteArticleStops()
-{
-    QFETCH(QString, row);
-    QFETCH(bool, fatal);
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"AboutHasBeenLaunchedBeforeFlag"_s, true);
-    insertAbouts({row});
-    AboutTableViewController list;
-    list.viewDidLoad();
-    try {
-        list.didSelectRowAt(0);
-    } catch (const FatalErrorException &) {
-        QVERIFY(fatal);
-        return;
-    }
-    QVERIFY(!fatal);
-    QCOMPARE(Selection::shared().selectedAboutName() + u'|' + Selection::shared().selectedAboutText(), row);
 }
 
 void TestAbout::headings_data()
