@@ -9,6 +9,8 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"NotesSegue"_s, u"notes/NotesTableView.qml"_s},
+          {u"EditNotesSegue"_s, u"notes/EditNotesView.qml"_s},
       }
 {
 }
