@@ -13,10 +13,13 @@ Page {
     EditNotesViewController { id: controller }
     Component.onCompleted: controller.viewDidLoad()
 
+    // Typed as a plain object by the linter of Qt 6.4, so held untyped.
+    readonly property var keyboard: Qt.inputMethod
+
     function endEditing() {
         picker.close()
         root.forceActiveFocus()
-        Qt.inputMethod.hide()
+        keyboard.hide()
     }
     function openPicker() {
         controller.DateEntered()
@@ -51,7 +54,7 @@ Page {
         anchors.fill: parent
         anchors.margins: 12
         // The text being typed stays above an on-screen keyboard.
-        anchors.bottomMargin: 12 + (Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0)
+        anchors.bottomMargin: 12 + (root.keyboard.visible ? root.keyboard.keyboardRectangle.height : 0)
         spacing: 10
 
         SegmentedControl {

@@ -29,11 +29,14 @@ Popup {
         syncing = true
         yearWheel.currentIndex = shown.getFullYear() - firstYear
         monthWheel.currentIndex = shown.getMonth()
-        dayWheel.model = daysIn(shown.getMonth(), shown.getFullYear())
+        dayWheel.labels = dayLabels(daysIn(shown.getMonth(), shown.getFullYear()))
         dayWheel.currentIndex = shown.getDate() - 1
         syncing = false
         open()
         monthWheel.forceActiveFocus()
+    }
+    function dayLabels(days: int): list<string> {
+        return Array.from({ length: days }, (_, i) => String(i + 1))
     }
     function wheelMoved() {
         if (syncing || !visible)
@@ -42,7 +45,7 @@ Popup {
         if (dayWheel.count !== days) {
             const day = dayWheel.currentIndex
             syncing = true
-            dayWheel.model = days
+            dayWheel.labels = dayLabels(days)
             dayWheel.currentIndex = Math.min(day, days - 1)
             syncing = false
         }
@@ -58,13 +61,14 @@ Popup {
     component Wheel: Tumbler {
         id: wheel
         property string title
-        property var label: i => String(i)
+        property list<string> labels
+        model: labels
         visibleItemCount: 5
         activeFocusOnTab: true
         Layout.fillWidth: true
         Layout.preferredHeight: 176
         Accessible.role: Accessible.SpinBox
-        Accessible.name: title + ", " + label(currentIndex)
+        Accessible.name: title + ", " + (labels[currentIndex] ?? "")
         Accessible.onIncreaseAction: step(1)
         Accessible.onDecreaseAction: step(-1)
         Keys.onUpPressed: step(-1)
@@ -78,8 +82,9 @@ Popup {
         // Spelled out: an inline component does not wrap a delegate object by itself on Qt 6.4.
         delegate: Component {
             Label {
-                required property int index
-                text: wheel.label(index)
+                required property string modelData
+                required property int index // read by the Tumbler's attached displacement
+                text: modelData
                 font.pixelSize: 18
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
@@ -96,7 +101,8 @@ Popup {
         }
     }
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 0
         ToolBar {
             Layout.fillWidth: true
@@ -124,24 +130,21 @@ Popup {
                 id: monthWheel
                 objectName: "monthWheel"
                 title: qsTr("Month")
-                model: 12
-                label: i => Qt.locale().monthName(i, Locale.LongFormat)
+                labels: Array.from({ length: 12 }, (_, i) => Qt.locale().monthName(i, Locale.LongFormat))
                 Layout.preferredWidth: 3
             }
             Wheel {
                 id: dayWheel
                 objectName: "dayWheel"
                 title: qsTr("Day")
-                model: 31
-                label: i => String(i + 1)
+                labels: picker.dayLabels(31)
                 Layout.preferredWidth: 1
             }
             Wheel {
                 id: yearWheel
                 objectName: "yearWheel"
                 title: qsTr("Year")
-                model: 201
-                label: i => String(picker.firstYear + i)
+                labels: Array.from({ length: 201 }, (_, i) => String(picker.firstYear + i))
                 Layout.preferredWidth: 2
             }
         }

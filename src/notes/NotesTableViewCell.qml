@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
@@ -71,6 +72,7 @@ SwipeDelegate {
     }
 
     swipe.right: AbstractButton {
+        id: deleteAction
         objectName: "deleteAction"
         width: 96
         height: cell.height - 4
@@ -80,14 +82,14 @@ SwipeDelegate {
         text: qsTr("delete")
         Accessible.name: text
         Accessible.ignored: !cell.swipe.complete
-        Accessible.onPressAction: if (cell.swipe.complete) clicked()
+        Accessible.onPressAction: if (cell.swipe.complete) deleteAction.clicked()
         onClicked: cell.deleteClicked()
         background: Rectangle {
             radius: Theme.cornerRadius
-            color: parent.down ? "#a51d1d" : "#d32f2f"
+            color: deleteAction.down ? "#a51d1d" : "#d32f2f"
         }
         contentItem: Label {
-            text: parent.text
+            text: deleteAction.text
             color: "white"
             font.pixelSize: 16
             horizontalAlignment: Text.AlignHCenter
