@@ -88,7 +88,14 @@ Page {
             Keys.onReturnPressed: root.openPicker()
             Keys.onEnterPressed: root.openPicker()
             Keys.onSpacePressed: root.openPicker()
-            TapHandler { onTapped: root.openPicker() }
+            MouseArea {
+                // A read-only field takes no taps of its own: a tap opens the picker.
+                anchors.fill: parent
+                onClicked: {
+                    dateField.forceActiveFocus()
+                    root.openPicker()
+                }
+            }
         }
 
         ScrollView {

@@ -64,6 +64,7 @@ Page {
             objectName: "table"
             Layout.fillWidth: true
             Layout.fillHeight: true
+            Layout.margins: 6
             model: controller.rows
             Accessible.name: root.title
             emptyText: controller.searchText.length > 0

@@ -87,6 +87,14 @@ void TestNotesPage::writeFindEditDelete()
     QTRY_COMPARE(topPage(window), u"EditNotesView"_s);
     QCOMPARE(waitForItem(window, u"DateTextField"_s)->property("text").toString(), u"Wednesday, March 3, 2027"_s);
     typeInto(window, waitForItem(window, u"SubjectTextField"_s), u"Picnic"_s);
+    // The date picker by keyboard: a month on, then Enter.
+    click(window, waitForItem(window, u"DateTextField"_s));
+    QTRY_VERIFY(waitForItem(window, u"monthWheel"_s) && waitForItem(window, u"monthWheel"_s)->hasActiveFocus());
+    QTest::keyClick(window, Qt::Key_Down);
+    QTest::keyClick(window, Qt::Key_Return);
+    QTRY_COMPARE(findItem(window->contentItem(), u"DateTextField"_s)->property("text").toString(),
+                 u"Saturday, April 3, 2027"_s);
+    QTRY_VERIFY(!findVisibleItem(window->contentItem(), u"monthWheel"_s));
     typeInto(window, waitForItem(window, u"NotesTextView"_s), u"bring plums"_s);
     click(window, waitForItem(window, u"SaveButton"_s));
     QTRY_COMPARE(topPage(window), u"NotesTableView"_s);
