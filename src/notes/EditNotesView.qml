@@ -120,8 +120,9 @@ Page {
     NoteDatePicker {
         id: picker
         objectName: "datePickerView"
-        width: root.width
-        y: root.height - height
+        parent: Overlay.overlay
+        width: parent.width
+        y: parent.height - height
         onPicked: shown => controller.dateChanged(shown.getFullYear(), shown.getMonth() + 1, shown.getDate())
         onDoneClicked: shown => controller.doneClick(shown.getFullYear(), shown.getMonth() + 1, shown.getDate())
         onTodayClicked: controller.todayClick()

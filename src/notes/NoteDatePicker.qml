@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Larkwells
 
@@ -56,7 +55,10 @@ Popup {
     dim: false
     padding: 0
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
-    Material.background: "white"
+    background: Rectangle {
+        color: "white"
+        Rectangle { width: parent.width; height: 1; color: Theme.border }
+    }
 
     component Wheel: Tumbler {
         id: wheel
@@ -106,8 +108,7 @@ Popup {
         spacing: 0
         ToolBar {
             Layout.fillWidth: true
-            Material.background: Theme.cellColor
-            Material.foreground: "black"
+            background: Rectangle { color: Theme.cellColor }
             RowLayout {
                 anchors.fill: parent
                 BarButton {
