@@ -90,10 +90,19 @@ Page {
         Material.background: Theme.cellColor
         Material.foreground: "black"
         Timer {
-            // The deletion is final once the undo bar goes.
-            running: controller.canUndoDelete
+            // The deletion is final once the undo bar goes; each deletion gets its full time.
+            id: undoTimer
             interval: 5000
             onTriggered: controller.forgetDeletedNote()
+        }
+        Connections {
+            target: controller
+            function onCanUndoDeleteChanged() {
+                if (controller.canUndoDelete)
+                    undoTimer.restart()
+                else
+                    undoTimer.stop()
+            }
         }
         RowLayout {
             anchors.fill: parent

@@ -113,11 +113,17 @@ void TestNotesPage::writeFindEditDelete()
     QTRY_COMPARE(topPage(window), u"NotesTableView"_s);
     QCOMPARE(storedSubjects(), QStringList{u"Picnic/bring plums and pears"_s});
 
-    // The swipe's action, as a keyboard user reaches it.
-    QQuickItem *table = waitForItem(window, u"table"_s);
-    table->forceActiveFocus();
-    QTRY_COMPARE(table->property("currentIndex").toInt(), 0);
-    QTest::keyClick(window, Qt::Key_Delete);
+    // Swiped left, the row offers "delete".
+    row = waitForItem(window, u"row-0"_s);
+    const QPoint start = row->mapToScene(QPointF(row->width() - 20, row->height() / 2)).toPoint();
+    QTest::mousePress(window, Qt::LeftButton, {}, start);
+    for (int step = 1; step <= 10; ++step)
+        QTest::mouseMove(window, start - QPoint(step * 20, 0), 10);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, start - QPoint(200, 0));
+    QQuickItem *deleteAction = waitForItem(window, u"deleteAction"_s);
+    QVERIFY(deleteAction);
+    QCOMPARE(deleteAction->property("text").toString(), u"delete"_s);
+    click(window, deleteAction);
     QTRY_VERIFY(storedSubjects().isEmpty());
     QVERIFY(waitForItem(window, u"UndoButton"_s));
     QVERIFY(!Alerts::shared().showing());
