@@ -9,14 +9,11 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
-<<<<<<< HEAD
           {u"AboutSegue"_s, u"about/AboutTableView.qml"_s},
           {u"AboutEditSegue"_s, u"about/AboutEditView.qml"_s},
           {u"AboutNewSegue"_s, u"about/AboutNewView.qml"_s},
-=======
           {u"NotesSegue"_s, u"notes/NotesTableView.qml"_s},
           {u"EditNotesSegue"_s, u"notes/EditNotesView.qml"_s},
->>>>>>> notes
       }
 {
 }
