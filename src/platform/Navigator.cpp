@@ -9,6 +9,8 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"SpecialDaysSegue"_s, u"lists/SpecialDaysTableView.qml"_s},
+          {u"SpecialDayReaderSegue"_s, u"reader/EditSpecialDaysView.qml"_s},
       }
 {
 }
