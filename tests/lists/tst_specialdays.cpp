@@ -1,6 +1,6 @@
-#include "AppDelegate.h"
 #include "FatalError.h"
 #include "Navigator.h"
+#include "PageRows.h"
 #include "Selection.h"
 #include "SpecialDayFile.h"
 #include "SpecialDaysTableViewController.h"
@@ -28,16 +28,6 @@ QStringList rowsOf(SpecialDaysTableViewController &controller)
                     + model.days().at(row)->poemprayer().value_or(u"-"_s));
     }
     return rows;
-}
-
-void insertDay(const QString &ampm, const QString &dayname, const QString &poem)
-{
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    SpecialDay *day = context.insertNewObject<SpecialDay>();
-    day->setAmpm(ampm);
-    day->setDayname(dayname);
-    day->setPoemprayer(poem);
-    context.save();
 }
 
 QList<SpecialDayFile::Record> parsed(const QByteArray &bytes)
@@ -105,7 +95,7 @@ void TestSpecialDays::firstVisitSeeds()
         environment.addBundleFile(u"Other.txt"_s, "AM^Not^this");
     else
         environment.addBundleFile(u"SpecialDays.txt"_s, file);
-    insertDay(u"AM"_s, u"Old"_s, u"kept"_s);
+    insertSpecialDays({u"AM|Old|kept"_s});
     UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
 
     SpecialDaysTableViewController controller;
@@ -161,9 +151,7 @@ void TestSpecialDays::choosingADayFillsTheSelection()
     TestEnvironment environment;
     UserDefaults::standard().set(flag, true);
     UserDefaults::standard().set(u"ListFontName"_s, u"DejaVu Sans"_s);
-    insertDay(u"PM"_s, u"Michaelmas"_s, u"Angels\nkeep watch"_s);
-    AppDelegate::shared().viewContext().insertNewObject<SpecialDay>()->setAmpm(u"AM"_s);
-    AppDelegate::shared().viewContext().save();
+    insertSpecialDays({u"PM|Michaelmas|Angels\nkeep watch"_s, u"AM|-|-"_s});
     SpecialDaysTableViewController controller;
     controller.viewDidLoad();
     QCOMPARE(controller.appearance()->ListFontName(), u"DejaVu Sans"_s);

@@ -1,8 +1,7 @@
-#include "Alerts.h"
-#include "AppDelegate.h"
 #include "EditSpecialDaysViewController.h"
 #include "FatalError.h"
 #include "Navigator.h"
+#include "PageRows.h"
 #include "Selection.h"
 #include "Sharing.h"
 #include "TestSupport.h"
@@ -66,66 +65,48 @@ class TestSpecialDayReader : public QObject
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
-    void composesHeadingNameAndPoem_data();
-    void composesHeadingNameAndPoem();
-    void appearanceFromPreferences_data();
-    void appearanceFromPreferences();
+    void composesAndStyles_data();
+    void composesAndStyles();
     void saveWritesOnlyForHeadingWords_data();
     void saveWritesOnlyForHeadingWords();
-    void sharesWhatTheTextViewHolds();
     void listReaderAndBack();
 };
 
-void TestSpecialDayReader::composesHeadingNameAndPoem_data()
+void TestSpecialDayReader::composesAndStyles_data()
 {
     QTest::addColumn<QString>("ampm");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("morning: a blank before the name") << u"AM"_s << u"Good Morning\n\n Easter\n\nRisen\nindeed"_s;
-    QTest::newRow("night: no blank") << u"PM"_s << u"Good Night\n\nEaster\n\nRisen\nindeed"_s;
-    QTest::newRow("neither: the poem alone") << u"pm"_s << u"Risen\nindeed"_s;
-}
-
-void TestSpecialDayReader::composesHeadingNameAndPoem()
-{
-    QFETCH(QString, ampm);
-    QFETCH(QString, text);
-    TestEnvironment environment;
-    select(ampm, u"Easter"_s, u"Risen\nindeed"_s);
-    EditSpecialDaysViewController controller;
-    controller.viewDidLoad();
-    QCOMPARE(controller.PoemPrayerText(), text);
-    QCOMPARE(Selection::shared().selectedSpecialPoem(), text);
-    QCOMPARE(controller.title(), u"Easter"_s);
-}
-
-void TestSpecialDayReader::appearanceFromPreferences_data()
-{
     QTest::addColumn<QVariantMap>("preferences");
+    QTest::addColumn<QString>("text");
     QTest::addColumn<QColor>("color");
     QTest::addColumn<double>("size");
     QTest::addColumn<QString>("wallpaper");
-    QTest::newRow("defaults: 17 points, black") << QVariantMap() << QColor(Qt::black) << 17.0 << QString();
-    QTest::newRow("stored size, red, wallpaper")
-        << QVariantMap{{u"ReaderFontSize"_s, 22.0}, {u"textColor"_s, 2}, {u"useWallpaper"_s, 1}}
-        << QColor(0xb0, 0, 0) << 22.0 << u"Page1.jpg"_s;
-    QTest::newRow("colour code 7 still shows the text, in black") << QVariantMap{{u"textColor"_s, 7}}
-                                                                  << QColor(Qt::black) << 17.0 << QString();
+    QTest::newRow("morning: a blank before the name; 17 points")
+        << u"AM"_s << QVariantMap() << u"Good Morning\n\n Easter\n\nRisen\nindeed"_s << QColor(Qt::black) << 17.0 << QString();
+    QTest::newRow("night: no blank; stored size, red, wallpaper")
+        << u"PM"_s << QVariantMap{{u"ReaderFontSize"_s, 22.0}, {u"textColor"_s, 2}, {u"useWallpaper"_s, 1}}
+        << u"Good Night\n\nEaster\n\nRisen\nindeed"_s << QColor(0xb0, 0, 0) << 22.0 << u"Page1.jpg"_s;
+    QTest::newRow("neither: the poem alone; colour code 7 shows it in black")
+        << u"pm"_s << QVariantMap{{u"textColor"_s, 7}} << u"Risen\nindeed"_s << QColor(Qt::black) << 17.0 << QString();
 }
 
-void TestSpecialDayReader::appearanceFromPreferences()
+void TestSpecialDayReader::composesAndStyles()
 {
+    QFETCH(QString, ampm);
     QFETCH(QVariantMap, preferences);
+    QFETCH(QString, text);
     QFETCH(QColor, color);
     QFETCH(double, size);
     QFETCH(QString, wallpaper);
     TestEnvironment environment;
     for (auto it = preferences.begin(); it != preferences.end(); ++it)
         UserDefaults::standard().set(it.key(), it.value());
-    select(u"AM"_s, u"Easter"_s, u"x"_s);
+    select(ampm, u"Easter"_s, u"Risen\nindeed"_s);
     EditSpecialDaysViewController controller;
     controller.viewDidLoad();
+    QCOMPARE(controller.PoemPrayerText(), text);
+    QCOMPARE(Selection::shared().selectedSpecialPoem(), text);
+    QCOMPARE(controller.title(), u"Easter"_s);
     QVERIFY(controller.appearance()->styled());
-    QVERIFY(!controller.PoemPrayerText().isEmpty());
     QCOMPARE(controller.appearance()->textColor(), color);
     QCOMPARE(controller.appearance()->fontSize(), size);
     QCOMPARE(controller.appearance()->wallpaper().fileName(), wallpaper);
@@ -153,15 +134,7 @@ void TestSpecialDayReader::saveWritesOnlyForHeadingWords()
     QFETCH(QString, ampm);
     QFETCH(QStringList, stored);
     TestEnvironment environment;
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    for (const QString &row : {u"AM|Easter|old"_s, u"PM|Easter|old night"_s}) {
-        const QStringList fields = row.split(u'|');
-        SpecialDay *day = context.insertNewObject<SpecialDay>();
-        day->setAmpm(fields[0]);
-        day->setDayname(fields[1]);
-        day->setPoemprayer(fields[2]);
-    }
-    context.save();
+    insertSpecialDays({u"AM|Easter|old"_s, u"PM|Easter|old night"_s});
     select(ampm, u"Easter"_s, u"old"_s);
     EditSpecialDaysViewController controller;
     controller.viewDidLoad();
@@ -176,22 +149,6 @@ void TestSpecialDayReader::saveWritesOnlyForHeadingWords()
     QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
     QCOMPARE(unwinds.size(), 1);
     QCOMPARE(unwinds.first().first().toString(), u"unwindToSpecialDaysSegue"_s);
-}
-
-void TestSpecialDayReader::sharesWhatTheTextViewHolds()
-{
-    TestEnvironment environment;
-    Sharing::shared().setCanSendTextForTesting(false); // no text-message gate on this screen
-    select(u"PM"_s, u"Easter"_s, u"Sleep"_s);
-    EditSpecialDaysViewController controller;
-    controller.viewDidLoad();
-    controller.setPoemPrayerText(controller.PoemPrayerText() + u"\nAmen"_s);
-    controller.ShareActions();
-    QVERIFY(Sharing::shared().showing());
-    QCOMPARE(Sharing::shared().text(), u"Good Night\n\nEaster\n\nSleep\nAmen"_s);
-    QVERIFY(!Alerts::shared().showing());
-    Sharing::shared().cancel();
-    Sharing::shared().setCanSendTextForTesting(std::nullopt);
 }
 
 // Cover → Special Days (first visit seeds) → a day → share → back, in the real pages.
@@ -224,10 +181,14 @@ void TestSpecialDayReader::listReaderAndBack()
     QVERIFY(text);
     QCOMPARE(text->property("text").toString(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark"_s);
 
+    // Sharing hands over the text as it stands, edits included, with no text-message gate.
+    Sharing::shared().setCanSendTextForTesting(false);
+    text->setProperty("text", text->property("text").toString() + u"\nAmen"_s);
     click(window, waitForItem(window, u"ShareButton"_s));
     QTRY_VERIFY(Sharing::shared().showing());
-    QCOMPARE(Sharing::shared().text(), text->property("text").toString());
+    QCOMPARE(Sharing::shared().text(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark\nAmen"_s);
     Sharing::shared().cancel();
+    Sharing::shared().setCanSendTextForTesting(std::nullopt);
 
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
