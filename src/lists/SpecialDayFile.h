@@ -5,8 +5,8 @@
 
 // The special-day file: UTF-8, one day a line, "ampm^dayname^poemprayer", "@#@" for a line
 // break in the poem, marker lines "[SPECIALDAYS]" and empty lines skipped wherever they stand.
-// The shipped file and the export share it. These functions are pure: they return values or
-// errors and leave stopping to the caller.
+// The shipped file and the export share it. These functions return values or errors and leave
+// stopping to the caller.
 namespace SpecialDayFile {
 
 inline const QStringList columns{QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")};
@@ -34,8 +34,9 @@ std::variant<QString, ReadError> read(const QString &path);
 std::variant<QList<Record>, ParseError> records(const QString &text);
 
 // The file for these records: the marker line, then one line a record, each ending in a line
-// feed. Line breaks in the poem become "@#@". More than three fields, a field holding "^", or a
-// name or time of day holding a line break has no spelling in the format and is an error.
+// feed. Line breaks in the poem become "@#@"; carriage returns are dropped. More than three
+// fields, a field holding "^", or a name or time of day holding a line break has no spelling in
+// the format and is an error.
 std::variant<QByteArray, WriteError> write(const QList<Record> &records);
 
 }

@@ -38,7 +38,6 @@ public:
     // which the list never gives; then returns to the list.
     Q_INVOKABLE void SaveSpecialDays();
     Q_INVOKABLE void BackToSpecialDays();
-    Q_INVOKABLE void BackAction() { BackToSpecialDays(); }
     Q_INVOKABLE void ShareActions();
     Q_INVOKABLE void HandlePinch(double scale);
     // The keyboard or the wheel asks for the text one point larger (1) or smaller (-1); this
