@@ -43,7 +43,7 @@ void EditSpecialDaysViewController::setPoemPrayerText(const QString &text)
 
 void EditSpecialDaysViewController::viewDidLoad()
 {
-    m_appearance.drawWallpaper(34);
+    m_appearance.drawWallpaper(34); // every draw in 0..33: the last wallpaper is never shown here
     m_deviceid = Device::shared().deviceid();
     m_appearance.read(defaultFontSize);
 
