@@ -14,6 +14,8 @@ Navigator::Navigator(QObject *parent)
           {u"AboutNewSegue"_s, u"about/AboutNewView.qml"_s},
           {u"NotesSegue"_s, u"notes/NotesTableView.qml"_s},
           {u"EditNotesSegue"_s, u"notes/EditNotesView.qml"_s},
+          {u"SpecialDaysSegue"_s, u"lists/SpecialDaysTableView.qml"_s},
+          {u"SpecialDayReaderSegue"_s, u"reader/EditSpecialDaysView.qml"_s},
       }
 {
 }

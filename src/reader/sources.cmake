@@ -1,7 +1,9 @@
 # Sources of this subsystem, relative to src/.
 list(APPEND LARKWELLS_SOURCES
+    reader/EditSpecialDaysViewController.h reader/EditSpecialDaysViewController.cpp
     reader/ViewController.h reader/ViewController.cpp
 )
 list(APPEND LARKWELLS_QML
+    reader/EditSpecialDaysView.qml
     reader/View.qml
 )
