@@ -2,6 +2,8 @@
 
 #include "FatalError.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
@@ -16,6 +18,45 @@ void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
     beginResetModel();
     m_pages = pages;
     endResetModel();
+}
+
+void PoemPrayerListModel::updatePages(const QList<PoemPrayer *> &pages)
+{
+    const QSet<PoemPrayer *> kept(pages.cbegin(), pages.cend());
+    const QSet<PoemPrayer *> shown(m_pages.cbegin(), m_pages.cend());
+    qsizetype row = 0;
+    qsizetype next = 0; // in `pages`
+    while (row < m_pages.size() || next < pages.size()) {
+        if (row < m_pages.size() && next < pages.size() && m_pages[row] == pages[next]) {
+            ++row;
+            ++next;
+        } else if (row < m_pages.size() && !kept.contains(m_pages[row])) {
+            qsizetype end = row;
+            while (end < m_pages.size() && !kept.contains(m_pages[end]))
+                ++end;
+            beginRemoveRows({}, int(row), int(end - 1));
+            m_pages.remove(row, end - row);
+            endRemoveRows();
+        } else if (next < pages.size() && !shown.contains(pages[next])) {
+            qsizetype end = next;
+            while (end < pages.size() && !shown.contains(pages[end]))
+                ++end;
+            insertRun(int(row), pages.mid(next, end - next));
+            row += end - next;
+            next = end;
+        } else {
+            setPages(pages); // the order changed
+            return;
+        }
+    }
+}
+
+void PoemPrayerListModel::insertRun(int row, const QList<PoemPrayer *> &pages)
+{
+    beginInsertRows({}, row, row + int(pages.size()) - 1);
+    m_pages.insert(row, pages.size(), nullptr);
+    std::copy(pages.cbegin(), pages.cend(), m_pages.begin() + row);
+    endInsertRows();
 }
 
 void PoemPrayerListModel::refreshRow(int row)

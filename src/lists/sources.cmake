@@ -2,9 +2,12 @@
 list(APPEND LARKWELLS_SOURCES
     lists/MainTableViewController.h lists/MainTableViewController.cpp
     lists/PoemPrayerListModel.h lists/PoemPrayerListModel.cpp
+    lists/SearchTableViewController.h lists/SearchTableViewController.cpp
     lists/SpecialDayFile.h lists/SpecialDayFile.cpp
 )
 list(APPEND LARKWELLS_QML
     lists/GMNTableViewCell.qml
     lists/MainTableView.qml
+    lists/OGMNTableViewCell.qml
+    lists/SearchTableView.qml
 )

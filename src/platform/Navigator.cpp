@@ -9,6 +9,8 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"SearchSegue"_s, u"lists/SearchTableView.qml"_s},
+          {u"SearchPoemSegue"_s, u"reader/SearchView.qml"_s},
       }
 {
 }
