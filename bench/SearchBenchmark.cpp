@@ -64,8 +64,8 @@ QList<double> timeFloor(const QList<PoemPrayer *> &pages, int scope, const QStri
         for (const QString &text : texts) {
             QList<PoemPrayer *> found;
             for (qsizetype i = 0; i < lowered.size(); ++i) {
-                if (lowered[i].contains(text))
-                    found.append(pages[i]);
+                if (lowered.at(i).contains(text))
+                    found.append(pages.at(i));
             }
             kept += found.size();
         }
@@ -105,5 +105,6 @@ int main(int argc, char **argv)
         std::printf("%-14s \"%s\": %.4f ms a keystroke, floor %.4f ms, ratio %.2f\n",
                     scope == 0 ? "Dates" : "Poems/Prayers", qPrintable(word), ours, floor, ours / floor);
     }
+    AppDelegate::shared().reset(); // the store closes while Qt is still up
     return 0;
 }

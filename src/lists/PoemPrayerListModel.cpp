@@ -2,8 +2,6 @@
 
 #include "FatalError.h"
 
-#include <QSet>
-
 using namespace Qt::StringLiterals;
 
 void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
@@ -22,33 +20,47 @@ void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
 
 void PoemPrayerListModel::updatePages(const QList<PoemPrayer *> &pages)
 {
-    const QSet<PoemPrayer *> kept(pages.cbegin(), pages.cend());
-    const QSet<PoemPrayer *> shown(m_pages.cbegin(), m_pages.cend());
+    // Rows [0, row) already equal pages [0, next). A row that differs is looked for a little
+    // further on in both lists at once, so a narrowed or widened list costs one pass.
     qsizetype row = 0;
-    qsizetype next = 0; // in `pages`
-    while (row < m_pages.size() || next < pages.size()) {
-        if (row < m_pages.size() && next < pages.size() && m_pages[row] == pages[next]) {
+    qsizetype next = 0;
+    while (next < pages.size() && row < m_pages.size()) {
+        if (m_pages[row] == pages[next]) {
             ++row;
             ++next;
-        } else if (row < m_pages.size() && !kept.contains(m_pages[row])) {
-            qsizetype end = row;
-            while (end < m_pages.size() && !kept.contains(m_pages[end]))
-                ++end;
-            beginRemoveRows({}, int(row), int(end - 1));
-            m_pages.remove(row, end - row);
-            endRemoveRows();
-        } else if (next < pages.size() && !shown.contains(pages[next])) {
-            qsizetype end = next;
-            while (end < pages.size() && !shown.contains(pages[end]))
-                ++end;
-            insertRun(int(row), pages.mid(next, end - next));
-            row += end - next;
-            next = end;
-        } else {
-            setPages(pages); // the order changed
-            return;
+            continue;
+        }
+        qsizetype distance = 1;
+        for (;; ++distance) {
+            const bool oldEnds = row + distance >= m_pages.size();
+            const bool newEnds = next + distance >= pages.size();
+            if (oldEnds && newEnds) {
+                setPages(pages); // the two lists share no order: replace the rows
+                return;
+            }
+            if (!oldEnds && m_pages[row + distance] == pages[next]) {
+                removeRun(int(row), int(distance));
+                break;
+            }
+            if (!newEnds && pages[next + distance] == m_pages[row]) {
+                insertRun(int(row), pages.mid(next, distance));
+                row += distance;
+                next += distance;
+                break;
+            }
         }
     }
+    if (row < m_pages.size())
+        removeRun(int(row), int(m_pages.size() - row));
+    if (next < pages.size())
+        insertRun(int(row), pages.mid(next));
+}
+
+void PoemPrayerListModel::removeRun(int row, int count)
+{
+    beginRemoveRows({}, row, row + count - 1);
+    m_pages.remove(row, count);
+    endRemoveRows();
 }
 
 void PoemPrayerListModel::insertRun(int row, const QList<PoemPrayer *> &pages)

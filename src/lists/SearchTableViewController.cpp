@@ -6,6 +6,8 @@
 #include "Navigator.h"
 #include "Selection.h"
 
+#include <numeric>
+
 using namespace Qt::StringLiterals;
 
 SearchTableViewController::SearchTableViewController(QObject *parent)
@@ -83,6 +85,7 @@ void SearchTableViewController::fetch()
 
 void SearchTableViewController::lowerFields()
 {
+    m_filteredNeedle.reset(); // the last result no longer narrows
     m_loweredFields.clear();
     m_loweredFields.reserve(m_PoemList.size());
     for (const PoemPrayer *page : std::as_const(m_PoemList)) {
@@ -93,19 +96,28 @@ void SearchTableViewController::lowerFields()
 
 void SearchTableViewController::filter()
 {
-    if (m_searchText.isEmpty()) {
-        m_FilteredPoemList = m_PoemList;
+    QList<qsizetype> candidates;
+    const QString needle = m_searchText.toLower();
+    // Text that only grows the last search narrows its result: a page holding the new text
+    // holds the old one too. Anything else searches every page again.
+    if (m_filteredNeedle && needle.contains(*m_filteredNeedle)) {
+        candidates = m_filteredIndices;
     } else {
-        const QString needle = m_searchText.toLower();
-        m_FilteredPoemList.clear();
-        for (qsizetype i = 0; i < m_PoemList.size(); ++i) {
-            const std::optional<QString> &field = m_loweredFields[i];
-            if (!field)
-                fatalError(u"Fatal error: page %1 has nothing to search in"_s.arg(m_PoemList[i]->pagenum()));
-            if (field->contains(needle))
-                m_FilteredPoemList.append(m_PoemList[i]);
+        candidates.resize(m_PoemList.size());
+        std::iota(candidates.begin(), candidates.end(), 0);
+    }
+    m_FilteredPoemList.clear();
+    m_filteredIndices.clear();
+    for (const qsizetype i : std::as_const(candidates)) {
+        const std::optional<QString> &field = std::as_const(m_loweredFields)[i];
+        if (!needle.isEmpty() && !field)
+            fatalError(u"Fatal error: page %1 has nothing to search in"_s.arg(m_PoemList.at(i)->pagenum()));
+        if (needle.isEmpty() || field->contains(needle)) {
+            m_FilteredPoemList.append(m_PoemList.at(i));
+            m_filteredIndices.append(i);
         }
     }
+    m_filteredNeedle = needle;
     reload();
 }
 

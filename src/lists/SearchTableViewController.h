@@ -67,6 +67,10 @@ private:
     QList<PoemPrayer *> m_PoemList;
     QList<PoemPrayer *> m_FilteredPoemList;
     QList<std::optional<QString>> m_loweredFields; // by the index of the page in m_PoemList
+    // What the last filter searched for, while its result still describes m_PoemList, and
+    // where its pages stand in m_PoemList.
+    std::optional<QString> m_filteredNeedle;
+    QList<qsizetype> m_filteredIndices;
     int m_segmentIndex = 0;
     QString m_searchText;
 };

@@ -109,6 +109,11 @@ void TestSearch::staleResultsAfterScopeChange()
     QCOMPARE(shownPagenums(controller), QList<int>{2});
     controller.setSearchText(u"nig"_s);
     QCOMPARE(shownPagenums(controller), QList<int>{});
+
+    // Longer text searches the new scope's pages, not what the old scope left.
+    controller.segmentedControlAction(1);
+    controller.setSearchText(u"nigh"_s);
+    QCOMPARE(shownPagenums(controller), QList<int>{2});
 }
 
 void TestSearch::rowChosenSetsTheSelection_data()
