@@ -53,8 +53,10 @@ void TestSearchJourney::searchReadAndBack()
 {
     TestEnvironment environment;
     UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    // The match stands far below the first screen of its page.
+    const QString longPage = u"A line of the morning\n"_s.repeated(80) + u"The lantern glows"_s;
     insertPages({u"January 1|AM|1|1|1|F|Snow on the sill"_s, u"January 1|PM|1|1|2|F|Night of lanterns"_s,
-                 u"February 10|AM|2|10|41|F|The lantern glows"_s});
+                 u"February 10|AM|2|10|41|F|"_s + longPage});
     importLarkwellsModule();
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s);
@@ -88,7 +90,8 @@ void TestSearchJourney::searchReadAndBack()
         }
     }
     QCOMPARE(marked, QStringList{u"lantern"_s});
-    QVERIFY(document->toPlainText().endsWith(u"February 10\n\nThe lantern glows"_s));
+    QVERIFY(document->toPlainText().endsWith(u"February 10\n\n"_s + longPage));
+    QTRY_VERIFY(findVisibleItem(window->contentItem(), u"scroller"_s)->property("contentY").toDouble() > 500);
 
     click(window, waitForItem(window, u"FavoriteCheckBox"_s));
     QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->favorite(),
