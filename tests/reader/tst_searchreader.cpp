@@ -169,9 +169,6 @@ void TestSearchReader::share_data()
     QTest::newRow("morning") << true << u"AM"_s
                              << u"From The Larkwells \r\n Good Morning \r\n \r\nMay 1\r\n \r\n"
                                 "\n\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s;
-    QTest::newRow("night") << true << u"PM"_s
-                           << u"From The Larkwells \r\n Good Night \r\n \r\nMay 1\r\n \r\n"
-                              "\n\nFrom The Larkwells\n Good Night\n\nMay 1\n\nBody"_s;
     QTest::newRow("neither: nothing") << true << u"x"_s << QString();
     QTest::newRow("no text messages: the alert") << false << u"AM"_s << QString();
 }
