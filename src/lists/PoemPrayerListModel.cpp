@@ -22,10 +22,11 @@ void PoemPrayerListModel::updatePages(const QList<PoemPrayer *> &pages)
 {
     // Rows [0, row) already equal pages [0, next). A row that differs is looked for a little
     // further on in both lists at once, so a narrowed or widened list costs one pass.
+    const QList<PoemPrayer *> &rows = std::as_const(m_pages);
     qsizetype row = 0;
     qsizetype next = 0;
     while (next < pages.size() && row < m_pages.size()) {
-        if (m_pages[row] == pages[next]) {
+        if (rows[row] == pages[next]) {
             ++row;
             ++next;
             continue;
@@ -38,11 +39,11 @@ void PoemPrayerListModel::updatePages(const QList<PoemPrayer *> &pages)
                 setPages(pages); // the two lists share no order: replace the rows
                 return;
             }
-            if (!oldEnds && m_pages[row + distance] == pages[next]) {
+            if (!oldEnds && rows[row + distance] == pages[next]) {
                 removeRun(int(row), int(distance));
                 break;
             }
-            if (!newEnds && pages[next + distance] == m_pages[row]) {
+            if (!newEnds && pages[next + distance] == rows[row]) {
                 insertRun(int(row), pages.mid(next, distance));
                 row += distance;
                 next += distance;

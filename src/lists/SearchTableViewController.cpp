@@ -96,23 +96,29 @@ void SearchTableViewController::lowerFields()
 
 void SearchTableViewController::filter()
 {
-    QList<qsizetype> candidates;
     const QString needle = m_searchText.toLower();
+    QList<qsizetype> candidates(m_PoemList.size());
+    std::iota(candidates.begin(), candidates.end(), 0);
+    if (needle.isEmpty()) {
+        m_FilteredPoemList = m_PoemList;
+        m_filteredIndices = candidates;
+        m_filteredNeedle = needle;
+        reload();
+        return;
+    }
     // Text that only grows the last search narrows its result: a page holding the new text
     // holds the old one too. Anything else searches every page again.
-    if (m_filteredNeedle && needle.contains(*m_filteredNeedle)) {
+    if (m_filteredNeedle && needle.contains(*m_filteredNeedle))
         candidates = m_filteredIndices;
-    } else {
-        candidates.resize(m_PoemList.size());
-        std::iota(candidates.begin(), candidates.end(), 0);
-    }
     m_FilteredPoemList.clear();
+    m_FilteredPoemList.reserve(candidates.size());
     m_filteredIndices.clear();
+    m_filteredIndices.reserve(candidates.size());
     for (const qsizetype i : std::as_const(candidates)) {
         const std::optional<QString> &field = std::as_const(m_loweredFields)[i];
-        if (!needle.isEmpty() && !field)
+        if (!field)
             fatalError(u"Fatal error: page %1 has nothing to search in"_s.arg(m_PoemList.at(i)->pagenum()));
-        if (needle.isEmpty() || field->contains(needle)) {
+        if (field->contains(needle)) {
             m_FilteredPoemList.append(m_PoemList.at(i));
             m_filteredIndices.append(i);
         }
