@@ -81,6 +81,7 @@ Page {
             objectName: "table"
             Layout.fillWidth: true
             Layout.fillHeight: true
+            Layout.margins: 6 // as the other lists' tables sit
             model: controller.rows
             Accessible.name: controller.segmentTitles[controller.segmentIndex]
             delegate: OGMNTableViewCell {
