@@ -2,6 +2,7 @@
 list(APPEND LARKWELLS_SOURCES
     lists/MainTableViewController.h lists/MainTableViewController.cpp
     lists/PoemPrayerListModel.h lists/PoemPrayerListModel.cpp
+    lists/SearchTableViewController.h lists/SearchTableViewController.cpp
     lists/SpecialDayFile.h lists/SpecialDayFile.cpp
     lists/SpecialDayListModel.h lists/SpecialDayListModel.cpp
     lists/SpecialDaySeeding.h lists/SpecialDaySeeding.cpp
@@ -14,4 +15,6 @@ list(APPEND LARKWELLS_QML
     lists/SpecialDayCell.qml
     lists/SpecialDaySectionHeading.qml
     lists/SpecialDaysTableView.qml
+    lists/OGMNTableViewCell.qml
+    lists/SearchTableView.qml
 )

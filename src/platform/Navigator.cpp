@@ -16,6 +16,8 @@ Navigator::Navigator(QObject *parent)
           {u"EditNotesSegue"_s, u"notes/EditNotesView.qml"_s},
           {u"SpecialDaysSegue"_s, u"lists/SpecialDaysTableView.qml"_s},
           {u"SpecialDayReaderSegue"_s, u"reader/EditSpecialDaysView.qml"_s},
+          {u"SearchSegue"_s, u"lists/SearchTableView.qml"_s},
+          {u"SearchPoemSegue"_s, u"reader/SearchView.qml"_s},
       }
 {
 }
