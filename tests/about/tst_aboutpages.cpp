@@ -10,31 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
-{
-    QQuickItem *item = nullptr;
-    const bool shown = QTest::qWaitFor([&] {
-        item = findVisibleItem(window->contentItem(), name);
-        return item && item->width() > 0 && item->height() > 0;
-    }, 15000);
-    return shown ? item : nullptr;
-}
-
-void click(QQuickWindow *window, QQuickItem *item)
-{
-    QVERIFY(item);
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-}
-
-QString topPage(QQuickWindow *window)
-{
-    auto *stack = findItem(window->contentItem(), u"stack"_s);
-    if (!stack || stack->property("busy").toBool())
-        return QString();
-    return stack->property("currentItem").value<QQuickItem *>()->objectName();
-}
-
 QStringList rowNames(QQuickWindow *window)
 {
     QStringList names;

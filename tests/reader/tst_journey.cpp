@@ -13,34 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
-{
-    QQuickItem *item = nullptr;
-    const bool shown = QTest::qWaitFor([&] {
-        item = findVisibleItem(window->contentItem(), name);
-        return item && item->width() > 0 && item->height() > 20; // slid open, laid out
-    }, 15000);
-    return shown ? item : nullptr;
-}
-
-void click(QQuickWindow *window, QQuickItem *item)
-{
-    QVERIFY(item);
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-}
-
-// The screen on top, once the stack has finished moving.
-QString topPage(QQuickWindow *window)
-{
-    auto *stack = findItem(window->contentItem(), u"stack"_s);
-    if (!stack || stack->property("busy").toBool())
-        return QString();
-    return stack->property("currentItem").value<QQuickItem *>()->objectName();
-}
-}
-
 // Cover → Good Morning → a row → reader → favourite → back, in the real pages.
 class TestJourney : public QObject
 {
