@@ -1,7 +1,6 @@
 #include "AboutEditViewController.h"
 
 #include "AppDelegate.h"
-#include "Device.h"
 #include "FatalError.h"
 #include "Log.h"
 #include "Navigator.h"
@@ -11,13 +10,8 @@
 using namespace Qt::StringLiterals;
 
 AboutEditViewController::AboutEditViewController(QObject *parent)
-    : QObject(parent)
+    : ReaderScreen(parent)
 {
-}
-
-QString AboutEditViewController::title() const
-{
-    return Selection::shared().selectedAboutName();
 }
 
 bool AboutEditViewController::leftAligned() const
@@ -46,9 +40,8 @@ QString AboutEditViewController::composedText(const QString &name, const QString
 
 void AboutEditViewController::viewDidLoad()
 {
-    m_appearance.drawWallpaper(34);
-    m_deviceid = Device::shared().deviceid();
-    m_appearance.read();
+    m_title = Selection::shared().selectedAboutName();
+    loadAppearance(34);
 
     Selection &selection = Selection::shared();
     m_AboutText = composedText(selection.selectedAboutName(), selection.selectedAboutText());
@@ -65,11 +58,6 @@ void AboutEditViewController::FontSizeChanged(double value)
     m_appearance.ChangeFontSize(value);
     // The article is shown at the stepper's size itself, not one point towards it.
     m_appearance.stepShownSize(int(value - m_appearance.fontSize()));
-}
-
-void AboutEditViewController::HandlePinch(double scale)
-{
-    m_appearance.HandlePinch(scale);
 }
 
 void AboutEditViewController::SaveAboutItem()

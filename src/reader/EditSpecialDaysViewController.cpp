@@ -1,7 +1,6 @@
 #include "EditSpecialDaysViewController.h"
 
 #include "AppDelegate.h"
-#include "Device.h"
 #include "Fonts.h"
 #include "Log.h"
 #include "Navigator.h"
@@ -19,7 +18,7 @@ constexpr double largestFontSize = 48.0;
 }
 
 EditSpecialDaysViewController::EditSpecialDaysViewController(QObject *parent)
-    : QObject(parent)
+    : ReaderScreen(parent)
 {
 }
 
@@ -43,9 +42,7 @@ void EditSpecialDaysViewController::setPoemPrayerText(const QString &text)
 
 void EditSpecialDaysViewController::viewDidLoad()
 {
-    m_appearance.drawWallpaper(34); // every draw in 0..33: the last wallpaper is never shown here
-    m_deviceid = Device::shared().deviceid();
-    m_appearance.read(defaultFontSize);
+    loadAppearance(34, defaultFontSize);
 
     Selection &selection = Selection::shared();
     m_SpecialDayName = heading(selection.selectedSpecialAmpm(), selection.selectedSpecialDayName());
@@ -90,11 +87,6 @@ void EditSpecialDaysViewController::BackToSpecialDays()
 void EditSpecialDaysViewController::ShareActions()
 {
     Sharing::shared().present({m_PoemPrayerText, {}, {}});
-}
-
-void EditSpecialDaysViewController::HandlePinch(double scale)
-{
-    m_appearance.HandlePinch(scale);
 }
 
 void EditSpecialDaysViewController::StepFontSize(int direction)

@@ -1,7 +1,6 @@
 #include "SearchViewController.h"
 
 #include "AppDelegate.h"
-#include "Device.h"
 #include "Entities.h"
 #include "FatalError.h"
 #include "Fonts.h"
@@ -13,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 SearchViewController::SearchViewController(QObject *parent)
-    : QObject(parent)
+    : ReaderScreen(parent)
 {
 }
 
@@ -59,9 +58,7 @@ void SearchViewController::viewDidLoad()
 {
     m_title = u"Search Poems/Prayers"_s;
     // Every draw, the first included, stays below the last wallpaper.
-    m_appearance.drawWallpaper(34);
-    m_deviceid = Device::shared().deviceid();
-    m_appearance.read();
+    loadAppearance(34);
 
     Selection &selection = Selection::shared();
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
@@ -126,11 +123,6 @@ void SearchViewController::IncreaseFontSize()
 void SearchViewController::DecreaseFontSize()
 {
     m_appearance.stepShownSize(-1);
-}
-
-void SearchViewController::HandlePinch(double scale)
-{
-    m_appearance.HandlePinch(scale);
 }
 
 void SearchViewController::ShareButtonClicked()

@@ -3,7 +3,6 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "Log.h"
-#include "Device.h"
 #include "Navigator.h"
 #include "ReaderText.h"
 #include "ReviewPrompt.h"
@@ -13,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 ViewController::ViewController(QObject *parent)
-    : QObject(parent)
+    : ReaderScreen(parent)
 {
 }
 
@@ -37,9 +36,7 @@ void ViewController::viewDidLoad()
 {
     m_title = u"View Poems/Prayers"_s;
     // The reader's first draw may reach the last wallpaper; redraws never do.
-    m_appearance.drawWallpaper(35);
-    m_deviceid = Device::shared().deviceid();
-    m_appearance.read();
+    loadAppearance(35);
 
     Selection &selection = Selection::shared();
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
@@ -96,11 +93,6 @@ void ViewController::save()
 void ViewController::ChangeFontSize(double value)
 {
     m_appearance.ChangeFontSize(value);
-}
-
-void ViewController::HandlePinch(double scale)
-{
-    m_appearance.HandlePinch(scale);
 }
 
 void ViewController::SharePoem()
