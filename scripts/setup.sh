@@ -11,6 +11,7 @@ packages=(
   qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtqml-models
   qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls
   qml6-module-qtquick-templates qml6-module-qtquick-layouts qml6-module-qtquick-dialogs
+  qml6-module-qt-labs-folderlistmodel
   qml6-module-qtquick-shapes qml6-module-qtqml-models qml6-module-qttest qml6-module-qtcore
   # fonts: a metric-compatible "Arial" and a few reading families
   fontconfig libfontconfig-dev fonts-liberation2 fonts-dejavu-core fonts-ebgaramond fonts-linuxlibertine fonts-sil-charis

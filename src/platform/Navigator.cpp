@@ -9,6 +9,10 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"ExportMenuSegue"_s, u"about/ExportLarkwellFilesView.qml"_s},
+          {u"ExportSegue"_s, u"about/ExportView.qml"_s},
+          {u"ExportSpecialDaysSegue"_s, u"about/SpecialDaysExportView.qml"_s},
+          {u"AboutImportSegue"_s, u"about/AboutImportView.qml"_s},
       }
 {
 }
