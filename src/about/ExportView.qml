@@ -25,9 +25,12 @@ Page {
         anchors.margins: 12
         spacing: 10
 
-        RowLayout {
+        GridLayout {
             Layout.fillWidth: true
-            spacing: 8
+            // Side by side where the titles fit on one line, else one above the other.
+            columns: root.width < 520 ? 1 : 3
+            rowSpacing: 8
+            columnSpacing: 8
             UpdateFileButton {
                 objectName: "ExportButton"
                 Layout.fillWidth: true

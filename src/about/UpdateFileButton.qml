@@ -9,6 +9,10 @@ Button {
     font.pixelSize: Theme.barFontSize
     font.capitalization: Font.MixedCase
     focusPolicy: Qt.StrongFocus
+    topPadding: 6
+    bottomPadding: 6
+    leftPadding: 8
+    rightPadding: 8
     implicitHeight: Math.max(Theme.touchTarget, implicitContentHeight + topPadding + bottomPadding)
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -29,6 +29,7 @@ ScrollView {
         color: "black"
         selectByMouse: true
         activeFocusOnTab: true
+        padding: 8
         background: null
         Accessible.role: Accessible.EditableText
         Accessible.name: view.accessibleName

@@ -17,6 +17,7 @@ Drawer {
     visible: Sharing.showing
     onOpened: Sharing.sheetPresented()
     onClosed: if (Sharing.showing) Sharing.cancel()
+    background: Rectangle { color: Theme.cellColor }
 
     contentItem: ColumnLayout {
         spacing: 0
