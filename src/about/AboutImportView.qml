@@ -25,6 +25,7 @@ Page {
         objectName: "documentPicker"
         title: qsTr("Choose an About File")
         fileMode: FileDialog.OpenFile
+        currentFolder: Sharing.documentsFolder
         nameFilters: [qsTr("All files (*)")]
         onAccepted: controller.documentPicker(selectedFile)
     }
