@@ -95,9 +95,15 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     QTRY_COMPARE(topPageName(window), u"ExportView"_s);
     QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
     click(window, exportButton);
-    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ExportTextViewArea"_s)->property("text").toString(),
+    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ExportTextView"_s)->property("text").toString(),
                  u"[POEMPRAYER]\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
     QVERIFY(!exportButton->isEnabled());
+    // Typing in the shown file edits the text the mail would send.
+    click(window, waitForItem(window, u"ExportTextViewBlock0"_s));
+    QTest::keyClick(window, Qt::Key_End);
+    QTest::keyClick(window, '!');
+    QObject *exportController = topPage(window)->property("controller").value<QObject *>();
+    QTRY_COMPARE(exportController->property("ExportTextView").toString(), u"[POEMPRAYER]!\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
     QVERIFY(waitForItem(window, u"SaveButton"_s)->isEnabled());
 
     click(window, waitForItem(window, u"backButton"_s));
@@ -120,7 +126,7 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     QVERIFY(pickerDialog->setProperty("currentFolder", QUrl::fromLocalFile(folder.path())));
     QVERIFY(pickerDialog->setProperty("selectedFile", QUrl::fromLocalFile(picked)));
     QVERIFY(QMetaObject::invokeMethod(pickerDialog, "accept"));
-    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ImportTextViewArea"_s)->property("text").toString(),
+    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ImportTextView"_s)->property("text").toString(),
                  u"[ABOUT]\nImported^From the file\n"_s);
 
     click(window, waitForItem(window, u"ImportButton"_s));
