@@ -4,11 +4,14 @@
 #include "FatalError.h"
 #include "PageFileWriter.h"
 #include "PageRows.h"
+#include "PageSeeding.h"
 #include "SpecialDayFileWriter.h"
 #include "StoreSnapshots.h"
 #include "TestSupport.h"
 
 #include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -71,6 +74,7 @@ private Q_SLOTS:
     void aboutExportThenImportGivesTheSameArticles();
     void specialDaysFileAndItsRoundTrip();
     void snapshotsKeepTheNewestFive();
+    void firstLaunchSeedingCopiesTheStoreFirst();
 };
 
 void TestUpdateFiles::pageUpdateFile_data()
@@ -196,6 +200,24 @@ void TestUpdateFiles::snapshotsKeepTheNewestFive()
     QCOMPARE(restored.size(), 1);
     QCOMPARE(restored.first()->name(), u"Kept"_s);
     QVERIFY(!StoreSnapshots::restoreArticles(taken[0])); // pruned
+}
+
+void TestUpdateFiles::firstLaunchSeedingCopiesTheStoreFirst()
+{
+    TestEnvironment environment;
+    insertPages({u"January 1|AM|1|1|1|T|A favourite kept in the copy"_s});
+    PageSeeding().clearPoemPrayers();
+    const QString copy = StoreSnapshots::latest(u"first-launch"_s);
+    QVERIFY(!copy.isEmpty());
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"copy"_s);
+        database.setDatabaseName(copy);
+        QVERIFY(database.open());
+        QSqlQuery query(u"SELECT favorite, poemprayer FROM PoemPrayer"_s, database);
+        QVERIFY(query.next());
+        QCOMPARE(query.value(1).toString(), u"A favourite kept in the copy"_s);
+    }
+    QSqlDatabase::removeDatabase(u"copy"_s);
 }
 
 QTEST_MAIN(TestUpdateFiles)
