@@ -126,11 +126,13 @@ void AboutImportViewController::ImportButtonClicked()
         if (!line.isEmpty() && line != AboutFile::marker)
             lines.append(line);
     }
-    if (!lines.isEmpty() && !allLines.contains(AboutFile::marker))
+    // A file of empty lines passes: the check for lines comes before the check for the header.
+    if (!lines.isEmpty() && !allLines.contains(AboutFile::marker)) {
         presentImportAlert(u"WRONG TEXT FILE - ABORTING"_s);
-    else
+    } else {
         for (const QString &line : lines)
             importLine(line);
+    }
     presentImportAlert(u"Data Import Completed"_s);
 }
 
@@ -162,7 +164,9 @@ void AboutImportViewController::importLine(const QString &line)
             article->setAboutText(QString(*m_theAboutText).replace(u"@#@"_s, u"\n"_s));
     } else {
         // An article named twice: the later line's text, "@#@" kept as it stands.
-        About *article = found.first();
+        About *article = found.value(0);
+        if (!article) // the count of an earlier line, after a failed fetch
+            return;
         if (!m_theName->isEmpty())
             article->setName(*m_theName);
         if (m_theAboutText && !m_theAboutText->isEmpty())
