@@ -46,6 +46,14 @@ void runHelper(const QString &program, const QStringList &arguments, const std::
 }
 }
 
+Sharing::Sharing(QObject *parent)
+    : QObject(parent)
+{
+    connect(this, &Sharing::failed, this, [](const QString &message) {
+        Alerts::shared().presentAsync({u"Share"_s, message, {u"OK"_s}, {}});
+    });
+}
+
 Sharing &Sharing::shared()
 {
     static Sharing *sharing = new Sharing;

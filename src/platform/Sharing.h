@@ -77,11 +77,12 @@ public:
 
 Q_SIGNALS:
     void showingChanged();
-    // An activity could not be done (for example a file that could not be written).
+    // An activity could not be done (for example a file that could not be written); the user
+    // is told in an alert.
     void failed(const QString &message);
 
 private:
-    explicit Sharing(QObject *parent = nullptr) : QObject(parent) {}
+    explicit Sharing(QObject *parent = nullptr);
     std::optional<Request> m_request;
     std::optional<bool> m_canSendOverride;
     std::optional<bool> m_canSendMailOverride;

@@ -130,6 +130,10 @@ void TestExportScreens::savesAndSharesTheFile()
     QVERIFY(Sharing::shared().showing() && Sharing::shared().sharesFile());
     QCOMPARE(Sharing::shared().suggestedCopy().fileName(), u"PoemPrayer.txt"_s);
 
+    Sharing::shared().saveCopy(QUrl::fromLocalFile(mailer.temporary(u"no/such/folder.txt"_s)));
+    QTRY_COMPARE(Alerts::shared().title(), u"Share"_s); // never a silent failure
+    QVERIFY(Sharing::shared().showing());
+    dismissAlerts();
     const QString copy = mailer.temporary(u"copy.txt"_s);
     Sharing::shared().saveCopy(QUrl::fromLocalFile(copy));
     QCOMPARE(contents(copy), contents(written));
