@@ -6,11 +6,13 @@
 #include "Entities.h"
 #include "FatalError.h"
 #include "Log.h"
+#include "StoreSnapshots.h"
 
 using namespace Qt::StringLiterals;
 
 void AboutSeeding::clearAbouts()
 {
+    StoreSnapshots::take(u"about-first-visit"_s);
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
     std::optional<StoreError> error;
     const QList<About *> articles = context.fetch<About>(About::fetchRequest(), &error);

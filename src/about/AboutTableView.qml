@@ -25,6 +25,9 @@ Page {
             Accessible.name: qsTr("New Article")
             onClicked: controller.NewArticle()
         }
+        UndoImportButton {
+            onImportUndone: controller.unwindToAboutSegue()
+        }
     }
 
     background: Rectangle { color: "white" }

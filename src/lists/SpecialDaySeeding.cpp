@@ -5,6 +5,7 @@
 #include "Entities.h"
 #include "FatalError.h"
 #include "Log.h"
+#include "StoreSnapshots.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +32,7 @@ void SpecialDaySeeding::seed()
 
 bool SpecialDaySeeding::clearSpecialDays(ManagedObjectContext &context)
 {
-    // The store snapshot taken before a table is emptied belongs here, ahead of the first deletion.
+    StoreSnapshots::take(u"special-days-first-visit"_s);
     std::optional<StoreError> error;
     const QList<SpecialDay *> days = context.fetch<SpecialDay>(SpecialDay::fetchRequest(), &error);
     if (error)

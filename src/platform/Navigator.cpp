@@ -18,6 +18,10 @@ Navigator::Navigator(QObject *parent)
           {u"SpecialDayReaderSegue"_s, u"reader/EditSpecialDaysView.qml"_s},
           {u"SearchSegue"_s, u"lists/SearchTableView.qml"_s},
           {u"SearchPoemSegue"_s, u"reader/SearchView.qml"_s},
+          {u"ExportMenuSegue"_s, u"about/ExportLarkwellFilesView.qml"_s},
+          {u"ExportSegue"_s, u"about/ExportView.qml"_s},
+          {u"ExportSpecialDaysSegue"_s, u"about/SpecialDaysExportView.qml"_s},
+          {u"AboutImportSegue"_s, u"about/AboutImportView.qml"_s},
       }
 {
 }

@@ -5,7 +5,8 @@ import QtQuick.Dialogs
 import QtQuick.Layouts
 import Larkwells
 
-// The bottom sheet of the Sharing service: copy, save as a text file, e-mail, text message.
+// The bottom sheet of the Sharing service: copy, save as a text file, e-mail, text message; for
+// a file, save a copy or open it with the desktop's handler.
 Drawer {
     id: sheet
     objectName: "shareSheet"
@@ -16,6 +17,7 @@ Drawer {
     visible: Sharing.showing
     onOpened: Sharing.sheetPresented()
     onClosed: if (Sharing.showing) Sharing.cancel()
+    background: Rectangle { color: Theme.cellColor }
 
     contentItem: ColumnLayout {
         spacing: 0
@@ -33,7 +35,7 @@ Drawer {
             Layout.leftMargin: 16
             Layout.rightMargin: 16
             Layout.bottomMargin: 8
-            text: Sharing.text.trim()
+            text: Sharing.sharesFile ? Sharing.fileName : Sharing.text.trim()
             elide: Text.ElideRight
             maximumLineCount: 2
             wrapMode: Text.WordWrap
@@ -45,14 +47,18 @@ Drawer {
                 { name: "file", title: qsTr("Save as Text File…") },
                 { name: "mail", title: qsTr("E-mail") },
                 { name: "sms", title: qsTr("Text Message") },
+                { name: "savecopy", title: qsTr("Save a Copy…") },
+                { name: "openwith", title: qsTr("Open With…") },
                 { name: "cancel", title: qsTr("Cancel") }
             ]
             delegate: ItemDelegate {
                 required property var modelData
                 objectName: "share-" + modelData.name
                 Layout.fillWidth: true
+                readonly property bool forFile: modelData.name === "savecopy" || modelData.name === "openwith"
                 // Asking the desktop for a text-message handler waits until the sheet is wanted.
-                visible: modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText)
+                visible: modelData.name === "cancel" || (forFile === Sharing.sharesFile
+                         && (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText)))
                 text: modelData.title
                 font.pixelSize: 17
                 font.bold: modelData.name === "cancel"
@@ -64,6 +70,8 @@ Drawer {
                     case "file": saveDialog.open(); break
                     case "mail": Sharing.email(); break
                     case "sms": Sharing.textMessage(); break
+                    case "savecopy": copyDialog.open(); break
+                    case "openwith": Sharing.openWith(); break
                     default: Sharing.cancel()
                     }
                 }
@@ -78,5 +86,14 @@ Drawer {
         defaultSuffix: "txt"
         nameFilters: [qsTr("Text files (*.txt)")]
         onAccepted: Sharing.saveToFile(selectedFile)
+    }
+
+    FileDialog {
+        id: copyDialog
+        title: qsTr("Save a Copy")
+        fileMode: FileDialog.SaveFile
+        currentFolder: Sharing.documentsFolder
+        selectedFile: Sharing.suggestedCopy
+        onAccepted: Sharing.saveCopy(selectedFile)
     }
 }
