@@ -2,6 +2,7 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "PersistentContainer.h"
+#include "ProductLinks.h"
 #include "SelfTest.h"
 #include "UserDefaults.h"
 
@@ -14,6 +15,7 @@
 #include <QSocketNotifier>
 #include <QStandardPaths>
 #include <csignal>
+#include <cstdio>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -48,6 +50,14 @@ void quitOnTerminationSignals(QGuiApplication &app)
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
 }
+
+// The version, with the links the app was built with.
+void printVersion()
+{
+    std::printf("%s %s\nstore page: %s\nweb site: %s\nfeedback: %s\n", qPrintable(QGuiApplication::applicationName()),
+                qPrintable(QGuiApplication::applicationVersion()), qPrintable(ProductLinks::productURL().toString()),
+                qPrintable(ProductLinks::website().toString()), qPrintable(ProductLinks::feedbackAddress()));
+}
 }
 
 int main(int argc, char *argv[])
@@ -61,12 +71,16 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(u"The Larkwells Book: a morning and a night page for every day of the year."_s);
     parser.addHelpOption();
-    parser.addVersionOption();
     const QCommandLineOption dataDir(u"data-dir"_s, u"Where the database and the preferences live."_s, u"DIR"_s);
     const QCommandLineOption resources(u"resources"_s, u"Use DIR as the application bundle."_s, u"DIR"_s);
     const QCommandLineOption selfTest(u"self-test"_s, u"Load every page and fail on any QML warning."_s);
-    parser.addOptions({dataDir, resources, selfTest});
+    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Displays version information and the app's links."_s);
+    parser.addOptions({dataDir, resources, selfTest, version});
     parser.process(app);
+    if (parser.isSet(version)) {
+        printVersion();
+        return EXIT_SUCCESS;
+    }
 
     const bool testing = parser.isSet(selfTest);
     SelfTest::Run selfTestRun;

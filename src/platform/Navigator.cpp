@@ -9,6 +9,10 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"UserDefaultsSegue"_s, u"settings/DefaultsView.qml"_s},
+          {u"ViewerWallpaperSegue"_s, u"settings/ViewerWallpaperTableView.qml"_s},
+          {u"ListWallpaperSegue"_s, u"settings/ListWallpaperTableView.qml"_s},
+          {u"SettingsSegue"_s, u"settings/SettingsView.qml"_s},
       }
 {
 }
