@@ -58,8 +58,11 @@ Page {
     component WallpaperButton: Button {
         id: button
         Layout.fillWidth: true
+        Layout.preferredWidth: 1 // the two share the row evenly
         Layout.preferredHeight: Theme.touchTarget + 8
-        font.pixelSize: 16
+        leftPadding: 6
+        rightPadding: 6
+        font.pixelSize: 15
         font.capitalization: Font.MixedCase
         Accessible.name: text
         Accessible.ignored: !visible
@@ -127,8 +130,10 @@ Page {
                     onStepped: value => controller.ReaderStepperChanged(value)
                 }
             }
+            // The colour segments get the whole width, so "Magenta" fits on a phone.
+            Caption { text: qsTr("Text Color") }
             RowLayout {
-                Caption { text: qsTr("Text Color") }
+                spacing: 10
                 SegmentedControl {
                     id: colorSegment
                     objectName: "PoemViewerTextColorSegment"

@@ -26,6 +26,12 @@ Popup {
     }
     onClosed: picker.defaults.dismissKeyboard()
 
+    background: Rectangle {
+        color: "white"
+        radius: Theme.cornerRadius
+        border.color: Theme.border
+    }
+
     function choose(row: int) {
         if (row < 0)
             return
