@@ -95,6 +95,24 @@ Page {
             onTapped: controller.dismissKeyboard()
         }
 
+        // Keeps the control the keyboard moved to in view.
+        function reveal(item: Item) {
+            let inside = item
+            while (inside && inside !== column)
+                inside = inside.parent
+            if (!inside)
+                return
+            const box = item.mapToItem(scroller.contentItem, 0, 0, item.width, item.height)
+            if (box.y - 8 < contentY)
+                contentY = Math.max(0, box.y - 8)
+            else if (box.y + box.height + 8 > contentY + height)
+                contentY = Math.min(contentHeight - height, box.y + box.height + 8 - height)
+        }
+        Connections {
+            target: root.Window.window
+            function onActiveFocusItemChanged() { scroller.reveal(root.Window.activeFocusItem) }
+        }
+
         ColumnLayout {
             id: column
             x: (scroller.width - width) / 2

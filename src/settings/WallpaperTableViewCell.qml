@@ -23,7 +23,8 @@ ListCell {
     }
 
     objectName: "row-" + index
-    rowHeight: 184
+    // Taller on a wide screen, where a phone-sized picture would look lost.
+    rowHeight: Math.max(184, Math.min(320, width / 3))
     onClicked: userToggle()
     onRowCheckStateChanged: box.setCheckState(rowCheckState, true)
 
