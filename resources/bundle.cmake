@@ -35,25 +35,3 @@ endforeach()
 # The icon is "Icon" in the bundle, for the window and the about screen.
 set_source_files_properties(${LARKWELLS_BUNDLE_DIR}/icon/larkwells.svg PROPERTIES QT_RESOURCE_ALIAS Icon.svg)
 qt_add_resources(larkwells_lib "bundle" PREFIX "/bundle" FILES ${LARKWELLS_BUNDLE_FILES})
-
-# The application icon: rasters for desktops and launchers, drawn from the SVG at build time.
-set(LARKWELLS_ICON_SVG ${LARKWELLS_BUNDLE_DIR}/icon/larkwells.svg)
-set(LARKWELLS_ICON_SIZES 16 24 32 48 64 128 192 256 512)
-set(LARKWELLS_ICONS_DIR ${CMAKE_BINARY_DIR}/icons/hicolor)
-set(LARKWELLS_ICONS)
-foreach(size IN LISTS LARKWELLS_ICON_SIZES)
-    list(APPEND LARKWELLS_ICONS ${LARKWELLS_ICONS_DIR}/${size}x${size}/apps/larkwells.png)
-endforeach()
-add_custom_command(
-    OUTPUT ${LARKWELLS_ICONS}
-    COMMAND larkwells_art icons ${LARKWELLS_ICON_SVG} ${LARKWELLS_ICONS_DIR} ${LARKWELLS_ICON_SIZES}
-    DEPENDS larkwells_art ${LARKWELLS_ICON_SVG}
-    COMMENT "Drawing the application icon"
-    VERBATIM)
-add_custom_target(larkwells_icons ALL DEPENDS ${LARKWELLS_ICONS})
-add_dependencies(larkwells_lib larkwells_icons)
-
-include(GNUInstallDirs)
-install(FILES ${LARKWELLS_BUNDLE_DIR}/icon/larkwells.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${LARKWELLS_ICON_SVG} DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(DIRECTORY ${LARKWELLS_ICONS_DIR} DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)

@@ -2,21 +2,23 @@
 # Installs every Debian package the build, the application, the tests and the benchmarks need.
 set -euo pipefail
 
+# What the application needs at run time is listed once, in runtime-packages.txt (the .deb
+# depends on the same list); what building, testing and packaging need is listed here.
 packages=(
   # build
-  cmake g++ ninja-build pkg-config python3
-  # Qt 6 toolkit
+  cmake g++ ninja-build pkg-config python3 ccache
+  # Qt 6 toolkit, headers and tools
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev
-  qt6-qpa-plugins libqt6sql6-sqlite libqt6svg6 libgl-dev
-  qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtqml-models
-  qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls
-  qml6-module-qtquick-templates qml6-module-qtquick-layouts qml6-module-qtquick-dialogs
-  qml6-module-qtquick-shapes qml6-module-qtqml-models qml6-module-qttest qml6-module-qtcore
-  # fonts: a metric-compatible "Arial" and a few reading families
-  fontconfig libfontconfig-dev fonts-liberation2 fonts-dejavu-core fonts-ebgaramond fonts-linuxlibertine fonts-sil-charis
-  # desktop services, a real window without a display, benchmarks
-  xdg-utils xvfb xauth libbenchmark-dev
+  qt6-tools-dev qt6-l10n-tools libgl-dev libfontconfig-dev
+  # tests: Qt Quick Test, a real window without a display, benchmarks
+  qml6-module-qttest xvfb xauth libbenchmark-dev
+  # packaging: shared-library dependencies of the .deb, and the two validators
+  dpkg-dev desktop-file-utils appstream
 )
+while read -r line; do
+  line="${line%%#*}"
+  for p in $line; do packages+=("$p"); done
+done < "$(dirname "$0")/runtime-packages.txt"
 
 SUDO=""
 if [ "$(id -u)" -ne 0 ]; then SUDO="sudo"; fi

@@ -7,15 +7,24 @@
 #include "UserDefaults.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QGuiApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QScreen>
+#include <QSettings>
 #include <QSocketNotifier>
 #include <QStandardPaths>
+#include <QTranslator>
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -51,36 +60,99 @@ void quitOnTerminationSignals(QGuiApplication &app)
     sigaction(SIGTERM, &action, nullptr);
 }
 
-// The version, with the links the app was built with.
-void printVersion()
+// The links the app was built with, beside the version (on standard error, so that standard
+// output stays the bare version line that packaging checks read).
+void printLinks()
 {
-    std::printf("%s %s\nstore page: %s\nweb site: %s\nfeedback: %s\n", qPrintable(QGuiApplication::applicationName()),
-                qPrintable(QGuiApplication::applicationVersion()), qPrintable(ProductLinks::productURL().toString()),
-                qPrintable(ProductLinks::website().toString()), qPrintable(ProductLinks::feedbackAddress()));
+    std::fprintf(stderr, "store page: %s\nweb site: %s\nfeedback: %s\n", qPrintable(ProductLinks::productURL().toString()),
+                 qPrintable(ProductLinks::website().toString()), qPrintable(ProductLinks::feedbackAddress()));
+}
+
+bool onlyAsksForHelpOrVersion(int argc, char *argv[])
+{
+    static const char *const flags[] = {"-h", "-?", "--help", "--help-all", "-v", "--version"};
+    return std::any_of(argv + 1, argv + argc, [](const char *arg) {
+        return std::any_of(std::begin(flags), std::end(flags), [arg](const char *flag) { return qstrcmp(arg, flag) == 0; });
+    });
+}
+
+// Our own texts in the reader's language where a translation exists, and Qt's own (dialog
+// buttons) where the system has them.
+void installTranslations(QGuiApplication &app)
+{
+    auto *own = new QTranslator(&app);
+    if (own->load(QLocale(), u"larkwells"_s, u"_"_s, u":/i18n"_s))
+        QCoreApplication::installTranslator(own);
+    auto *qt = new QTranslator(&app);
+    if (qt->load(QLocale(), u"qt"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qt);
+}
+
+// The window opens at phone size on a desktop (Main.qml) and full screen on a phone-sized
+// screen; on a desktop it comes back where the reader left it.
+void placeWindow(QQuickWindow *window, const QString &dataDirectory)
+{
+    const QRect available = window->screen()->availableGeometry();
+    if (std::min(available.width(), available.height()) < 600) {
+        window->setGeometry(window->screen()->geometry()); // for a compositor that ignores the state
+        window->showFullScreen();
+        return;
+    }
+    const QString file = QDir(dataDirectory).filePath(u"Window.ini"_s);
+    const QRect saved = QSettings(file, QSettings::IniFormat).value(u"geometry"_s).toRect();
+    if (saved.isValid() && QGuiApplication::screenAt(saved.center()))
+        window->setGeometry(saved);
+    // Quitting hides the window before aboutToQuit, so the last windowed geometry is kept as it changes.
+    auto last = std::make_shared<QRect>(window->geometry());
+    const auto keep = [window, last] {
+        if (window->visibility() == QWindow::Windowed)
+            *last = window->geometry();
+    };
+    for (const auto changed : {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
+        QObject::connect(window, changed, window, keep);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, window,
+                     [file, last] { QSettings(file, QSettings::IniFormat).setValue(u"geometry"_s, *last); });
 }
 }
 
 int main(int argc, char *argv[])
 {
+    // --help and --version answer on a console without a window system.
+    if (onlyAsksForHelpOrVersion(argc, argv))
+        qputenv("QT_QPA_PLATFORM", "minimal");
     QGuiApplication app(argc, argv);
-    QGuiApplication::setApplicationName(u"larkwells"_s);
-    QGuiApplication::setApplicationDisplayName(u"The Larkwells Book"_s);
-    QGuiApplication::setApplicationVersion(Bundle::main().version());
-    QGuiApplication::setDesktopFileName(u"larkwells"_s);
+    QCoreApplication::setApplicationName(u"larkwells"_s);
+    QCoreApplication::setApplicationVersion(Bundle::main().version());
+    installTranslations(app);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"The Larkwells Book: a morning and a night page for every day of the year."_s);
-    parser.addHelpOption();
-    const QCommandLineOption dataDir(u"data-dir"_s, u"Where the database and the preferences live."_s, u"DIR"_s);
-    const QCommandLineOption resources(u"resources"_s, u"Use DIR as the application bundle."_s, u"DIR"_s);
-    const QCommandLineOption selfTest(u"self-test"_s, u"Load every page and fail on any QML warning."_s);
-    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Displays version information and the app's links."_s);
-    parser.addOptions({dataDir, resources, selfTest, version});
-    parser.process(app);
-    if (parser.isSet(version)) {
-        printVersion();
-        return EXIT_SUCCESS;
+    parser.setApplicationDescription(QCoreApplication::translate("main", "The Larkwells Book: a morning and a night page for every day of the year."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption dataDir(u"data-dir"_s, QCoreApplication::translate("main", "Where the database and the preferences live."), u"DIR"_s);
+    const QCommandLineOption resources(u"resources"_s, QCoreApplication::translate("main", "Use DIR as the application bundle."), u"DIR"_s);
+    const QCommandLineOption selfTest(u"self-test"_s, QCoreApplication::translate("main", "Load every page and fail on any QML warning."));
+    parser.addOptions({dataDir, resources, selfTest});
+    if (!parser.parse(QCoreApplication::arguments())) {
+        std::fprintf(stderr, "larkwells: %s\n%s\n", qPrintable(parser.errorText()),
+                     qPrintable(QCoreApplication::translate("main", "Try 'larkwells --help' for the options.")));
+        return 2;
     }
+    if (parser.isSet(version)) {
+        printLinks();
+        parser.showVersion();
+    }
+    if (parser.isSet(help) || parser.isSet(u"help-all"_s))
+        parser.showHelp();
+    if (!parser.positionalArguments().isEmpty()) {
+        std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst())));
+        return 2;
+    }
+
+    QGuiApplication::setApplicationDisplayName(u"The Larkwells Book"_s);
+    // Matches the window to its desktop entry (packaging/), which names the icon.
+    QGuiApplication::setDesktopFileName(u"org.larkwells.Book"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/bundle/Icon.svg"_s));
 
     const bool testing = parser.isSet(selfTest);
     SelfTest::Run selfTestRun;
@@ -106,10 +178,13 @@ int main(int argc, char *argv[])
     engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
-    // For the launch benchmarks (bench/): quit normally once the first frame is on screen.
-    if (auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
-        window && qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
-        QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QGuiApplication::quit, Qt::QueuedConnection);
+    if (auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst())) {
+        if (!testing)
+            placeWindow(window, directory);
+        // For the launch benchmarks (bench/): quit normally once the first frame is on screen.
+        if (qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
+            QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QGuiApplication::quit, Qt::QueuedConnection);
+    }
     const int status = testing ? selfTestRun.exec(engine) : QGuiApplication::exec();
     AppDelegate::shared().reset(); // close the store while the database driver still exists
     return status;

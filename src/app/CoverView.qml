@@ -35,7 +35,8 @@ Page {
         // Drawn once, at the most the screen can show of it.
         readonly property real drawScale: Math.min(1, Math.max(Screen.width, Screen.height)
                                                        * Screen.devicePixelRatio / natural.height)
-        sourceSize: Qt.size(natural.width * drawScale, natural.height * drawScale)
+        sourceSize.width: natural.width * drawScale
+        sourceSize.height: natural.height * drawScale
         smooth: true
         mipmap: true
         Accessible.role: Accessible.Graphic

@@ -7,8 +7,8 @@ import Larkwells
 // The one window: a stack of screens starting at the cover, and the alert dialog.
 ApplicationWindow {
     id: window
-    width: 420
-    height: 860
+    width: 412
+    height: 915
     minimumWidth: 320
     minimumHeight: 480
     visible: true

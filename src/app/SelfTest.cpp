@@ -4,8 +4,10 @@
 #include "Navigator.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
+#include <QQuickWindow>
 #include <QTimer>
 #include <cstdio>
 
@@ -38,16 +40,29 @@ void SelfTest::Run::watchWarnings()
     s_previous = qInstallMessageHandler(countWarnings);
 }
 
-int SelfTest::Run::exec(QQmlApplicationEngine &)
+int SelfTest::Run::exec(QQmlApplicationEngine &engine)
 {
+    // With LARKWELLS_SCREENSHOTS=DIR every screen is also saved as DIR/<segue>.png
+    // (scripts/screenshots.sh picks the published ones from there).
+    const QString screenshots = qEnvironmentVariable("LARKWELLS_SCREENSHOTS");
+    const auto shoot = [&](const QString &name) {
+        auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+        if (screenshots.isEmpty() || !window)
+            return;
+        settle(400); // closing dialogs fade out
+        if (!window->grabWindow().save(QDir(screenshots).filePath(name + u".png"_s)))
+            std::fprintf(stderr, "self-test: cannot save the screenshot %s\n", qPrintable(name));
+    };
     settle(200);
     while (Alerts::shared().showing())
         Alerts::shared().dismiss(0);
+    shoot(u"Cover"_s);
     Navigator &navigator = Navigator::shared();
     for (const QString &segue : navigator.segues()) {
         std::printf("self-test: %s\n", qPrintable(segue));
         navigator.performSegue(segue);
         settle(400);
+        shoot(segue);
         navigator.popToRoot();
         settle(400);
     }

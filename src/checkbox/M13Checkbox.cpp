@@ -29,8 +29,20 @@ std::optional<Enum> enumFromText(const QString &text)
     return std::nullopt;
 }
 
-// Room around the box for springs that overshoot and for the pressed halo, as a share of the box.
+// An invalid colour stands for none.
+std::optional<QColor> orNone(const QColor &color)
+{
+    return color.isValid() ? std::optional(color) : std::nullopt;
+}
+
+// Room around the box for springs that overshoot, the pressed halo and the focus ring, as a share
+// of the box.
 constexpr qreal Overdraw = 0.3;
+
+// The keyboard focus ring: the accent colour, a thin line just clear of the box.
+const QColor FocusRingColor(0x0d, 0x26, 0x99);
+constexpr qreal FocusRingWidth = 2;
+constexpr qreal FocusRingGap = 2;
 
 } // namespace
 
@@ -55,6 +67,7 @@ public:
         if (!m_box->isEnabled())
             painter->setOpacity(0.4);
         painter->translate(size * Overdraw, size * Overdraw);
+        painter->save();
         if (m_box->isSelected()) {
             // A soft halo and a slight give under the finger.
             const QPointF centre = controller->pathGenerator().centre();
@@ -68,9 +81,26 @@ public:
             painter->translate(-centre);
         }
         controller->paint(painter);
+        painter->restore();
+        if (m_box->hasVisualFocus())
+            paintFocusRing(painter, *controller);
     }
 
 private:
+    // Drawn at rest, outside the pressed give, following the box's shape.
+    static void paintFocusRing(QPainter *painter, const M13CheckboxController &controller)
+    {
+        const M13CheckboxPathGenerator &generator = controller.pathGenerator();
+        const qreal outset = FocusRingGap + FocusRingWidth / 2;
+        const QRectF ring = QRectF(0, 0, generator.size(), generator.size()).adjusted(-outset, -outset, outset, outset);
+        painter->setPen(QPen(FocusRingColor, FocusRingWidth));
+        painter->setBrush(Qt::NoBrush);
+        if (generator.boxType() == M13Checkbox::BoxType::Circle)
+            painter->drawEllipse(ring);
+        else
+            painter->drawRoundedRect(ring, generator.cornerRadius() + outset, generator.cornerRadius() + outset);
+    }
+
     M13Checkbox *m_box;
 };
 
@@ -121,6 +151,7 @@ M13Checkbox::M13Checkbox(QQuickItem *parent) : QQuickItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
+    setActiveFocusOnTab(true);
     m_canvas = new M13CheckboxCanvas(this);
     m_gestureRecognizer.setAction([this](M13CheckboxGestureRecognizer *recognizer) { handleLongPress(recognizer); });
     installController(M13CheckboxController::create(m_stateChangeAnimation, this));
@@ -187,6 +218,24 @@ void M13Checkbox::toggleCheckState(bool animated)
     setCheckState(checkState() == CheckState::Unchecked ? CheckState::Checked : CheckState::Unchecked, animated);
 }
 
+template <typename T, typename Apply>
+void M13Checkbox::changeAppearance(const T &value, const T &current, Apply apply)
+{
+    if (value == current)
+        return;
+    apply();
+    Q_EMIT appearanceChanged();
+}
+
+template <typename T>
+void M13Checkbox::changeGeometry(T value, T current, void (M13CheckboxPathGenerator::*set)(T))
+{
+    changeAppearance(value, current, [&] {
+        (m_controller->pathGenerator().*set)(value);
+        m_controller->resetLayers();
+    });
+}
+
 QColor M13Checkbox::tintColor() const
 {
     return m_controller->tintColor();
@@ -194,10 +243,7 @@ QColor M13Checkbox::tintColor() const
 
 void M13Checkbox::setTintColor(const QColor &color)
 {
-    if (color == tintColor())
-        return;
-    m_controller->setTintColor(color);
-    Q_EMIT appearanceChanged();
+    changeAppearance(color, tintColor(), [&] { m_controller->setTintColor(color); });
 }
 
 QColor M13Checkbox::secondaryTintColor() const
@@ -207,10 +253,7 @@ QColor M13Checkbox::secondaryTintColor() const
 
 void M13Checkbox::setSecondaryTintColor(const QColor &color)
 {
-    if (color == secondaryTintColor())
-        return;
-    m_controller->setSecondaryTintColor(color.isValid() ? std::optional(color) : std::nullopt);
-    Q_EMIT appearanceChanged();
+    changeAppearance(color, secondaryTintColor(), [&] { m_controller->setSecondaryTintColor(orNone(color)); });
 }
 
 QColor M13Checkbox::secondaryCheckmarkTintColor() const
@@ -220,10 +263,8 @@ QColor M13Checkbox::secondaryCheckmarkTintColor() const
 
 void M13Checkbox::setSecondaryCheckmarkTintColor(const QColor &color)
 {
-    if (color == secondaryCheckmarkTintColor())
-        return;
-    m_controller->setSecondaryCheckmarkTintColor(color.isValid() ? std::optional(color) : std::nullopt);
-    Q_EMIT appearanceChanged();
+    changeAppearance(color, secondaryCheckmarkTintColor(),
+                     [&] { m_controller->setSecondaryCheckmarkTintColor(orNone(color)); });
 }
 
 bool M13Checkbox::hideBox() const
@@ -233,10 +274,7 @@ bool M13Checkbox::hideBox() const
 
 void M13Checkbox::setHideBox(bool hide)
 {
-    if (hide == hideBox())
-        return;
-    m_controller->setHideBox(hide);
-    Q_EMIT appearanceChanged();
+    changeAppearance(hide, hideBox(), [&] { m_controller->setHideBox(hide); });
 }
 
 bool M13Checkbox::enableMorphing() const
@@ -246,10 +284,7 @@ bool M13Checkbox::enableMorphing() const
 
 void M13Checkbox::setEnableMorphing(bool enable)
 {
-    if (enable == enableMorphing())
-        return;
-    m_controller->setEnableMorphing(enable);
-    Q_EMIT appearanceChanged();
+    changeAppearance(enable, enableMorphing(), [&] { m_controller->setEnableMorphing(enable); });
 }
 
 M13Checkbox::MarkType M13Checkbox::markType() const
@@ -259,10 +294,7 @@ M13Checkbox::MarkType M13Checkbox::markType() const
 
 void M13Checkbox::setMarkType(MarkType type)
 {
-    if (type == markType())
-        return;
-    m_controller->setMarkType(type);
-    Q_EMIT appearanceChanged();
+    changeAppearance(type, markType(), [&] { m_controller->setMarkType(type); });
 }
 
 M13Checkbox::BoxType M13Checkbox::boxType() const
@@ -272,11 +304,7 @@ M13Checkbox::BoxType M13Checkbox::boxType() const
 
 void M13Checkbox::setBoxType(BoxType type)
 {
-    if (type == boxType())
-        return;
-    m_controller->pathGenerator().setBoxType(type);
-    m_controller->resetLayers();
-    Q_EMIT appearanceChanged();
+    changeGeometry(type, boxType(), &M13CheckboxPathGenerator::setBoxType);
 }
 
 qreal M13Checkbox::checkmarkLineWidth() const
@@ -287,11 +315,7 @@ qreal M13Checkbox::checkmarkLineWidth() const
 void M13Checkbox::setCheckmarkLineWidth(qreal width)
 {
     m_checkmarkLineWidthSet = true;
-    if (width == checkmarkLineWidth())
-        return;
-    m_controller->pathGenerator().setCheckmarkLineWidth(width);
-    m_controller->resetLayers();
-    Q_EMIT appearanceChanged();
+    changeGeometry(width, checkmarkLineWidth(), &M13CheckboxPathGenerator::setCheckmarkLineWidth);
 }
 
 qreal M13Checkbox::boxLineWidth() const
@@ -301,11 +325,7 @@ qreal M13Checkbox::boxLineWidth() const
 
 void M13Checkbox::setBoxLineWidth(qreal width)
 {
-    if (width == boxLineWidth())
-        return;
-    m_controller->pathGenerator().setBoxLineWidth(width);
-    m_controller->resetLayers();
-    Q_EMIT appearanceChanged();
+    changeGeometry(width, boxLineWidth(), &M13CheckboxPathGenerator::setBoxLineWidth);
 }
 
 qreal M13Checkbox::cornerRadius() const
@@ -316,11 +336,7 @@ qreal M13Checkbox::cornerRadius() const
 void M13Checkbox::setCornerRadius(qreal radius)
 {
     m_cornerRadiusSet = true;
-    if (radius == cornerRadius())
-        return;
-    m_controller->pathGenerator().setCornerRadius(radius);
-    m_controller->resetLayers();
-    Q_EMIT appearanceChanged();
+    changeGeometry(radius, cornerRadius(), &M13CheckboxPathGenerator::setCornerRadius);
 }
 
 qreal M13Checkbox::animationDuration() const
@@ -330,10 +346,8 @@ qreal M13Checkbox::animationDuration() const
 
 void M13Checkbox::setAnimationDuration(qreal seconds)
 {
-    if (seconds == animationDuration())
-        return;
-    m_controller->animationGenerator().setAnimationDuration(seconds);
-    Q_EMIT appearanceChanged();
+    changeAppearance(seconds, animationDuration(),
+                     [&] { m_controller->animationGenerator().setAnimationDuration(seconds); });
 }
 
 QString M13Checkbox::ibCheckState() const
@@ -384,10 +398,14 @@ void M13Checkbox::handleLongPress(M13CheckboxGestureRecognizer *recognizer)
 {
     using State = M13CheckboxGestureRecognizer::State;
     setSelected(recognizer->state() == State::Began || recognizer->state() == State::Changed);
-    if (recognizer->state() == State::Ended) {
-        toggleCheckState(true);
-        Q_EMIT valueChanged();
-    }
+    if (recognizer->state() == State::Ended)
+        toggleByUser();
+}
+
+void M13Checkbox::toggleByUser()
+{
+    toggleCheckState(true);
+    Q_EMIT valueChanged();
 }
 
 QRectF M13Checkbox::boxRect() const
@@ -502,6 +520,61 @@ void M13Checkbox::touchUngrabEvent()
     m_gestureRecognizer.touchesCancelled();
 }
 
+void M13Checkbox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier) {
+        event->ignore();
+        return;
+    }
+    // Space is a tap in the middle of the box: down on press, up on release.
+    if (!event->isAutoRepeat() && !m_spaceHeld) {
+        m_spaceHeld = true;
+        m_gestureRecognizer.touchesBegan(boxRect().center());
+    }
+    event->accept();
+}
+
+void M13Checkbox::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        event->ignore();
+        return;
+    }
+    if (!event->isAutoRepeat() && m_spaceHeld) {
+        m_spaceHeld = false;
+        m_gestureRecognizer.touchesEnded(boxRect().center(), QRectF(0, 0, width(), height()));
+    }
+    event->accept();
+}
+
+void M13Checkbox::focusInEvent(QFocusEvent *event)
+{
+    QQuickItem::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    setVisualFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+                   || reason == Qt::ShortcutFocusReason);
+}
+
+void M13Checkbox::focusOutEvent(QFocusEvent *event)
+{
+    QQuickItem::focusOutEvent(event);
+    setVisualFocus(false);
+    // Space held while focus moves away must not toggle a box the user has left.
+    if (m_spaceHeld) {
+        m_spaceHeld = false;
+        m_gestureRecognizer.touchesCancelled();
+    }
+}
+
+void M13Checkbox::setVisualFocus(bool visualFocus)
+{
+    if (visualFocus == m_visualFocus)
+        return;
+    m_visualFocus = visualFocus;
+    m_canvas->update();
+    Q_EMIT visualFocusChanged();
+}
+
 void M13Checkbox::attachAccessibility()
 {
     if (m_accessible)
@@ -533,7 +606,9 @@ void M13Checkbox::updateAccessibleState()
 
 void M13Checkbox::accessibleToggle()
 {
-    // A screen reader's toggle stands for a completed touch.
-    toggleCheckState(true);
-    Q_EMIT valueChanged();
+    // A screen reader still reaches boxes that cannot be touched; those refuse.
+    if (!isVisible() || !isEnabled())
+        return;
+    // Otherwise its toggle stands for a completed touch.
+    toggleByUser();
 }

@@ -12,10 +12,11 @@
 
 class M13CheckboxCanvas;
 class M13CheckboxController;
+class M13CheckboxPathGenerator;
 
 // The animated check box of the favourite marks and the wallpaper rows. Owners set its state,
 // with or without animation, and read it back on valueChanged, which only a completed touch
-// (or a screen reader's toggle) sends.
+// (or Space, or a screen reader's toggle) sends.
 class M13Checkbox : public QQuickItem
 {
     Q_OBJECT
@@ -36,6 +37,8 @@ class M13Checkbox : public QQuickItem
     Q_PROPERTY(QVariant uncheckedValue MEMBER m_uncheckedValue NOTIFY valuesChanged)
     Q_PROPERTY(QVariant mixedValue MEMBER m_mixedValue NOTIFY valuesChanged)
     Q_PROPERTY(bool selected READ isSelected NOTIFY selectedChanged)
+    // Focus that came from the keyboard, which shows a ring round the box.
+    Q_PROPERTY(bool visualFocus READ hasVisualFocus NOTIFY visualFocusChanged)
     // Text forms for layouts that can only carry strings; unknown text leaves the value alone.
     Q_PROPERTY(QString _IBCheckState READ ibCheckState WRITE setIBCheckState NOTIFY checkStateChanged)
     Q_PROPERTY(QString _IBMarkType READ ibMarkType WRITE setIBMarkType NOTIFY appearanceChanged)
@@ -128,6 +131,7 @@ public:
     void setAnimationDuration(qreal seconds);
 
     bool isSelected() const { return m_selected; }
+    bool hasVisualFocus() const { return m_visualFocus; }
 
     QString ibCheckState() const;
     void setIBCheckState(const QString &text);
@@ -150,6 +154,7 @@ Q_SIGNALS:
     void appearanceChanged();
     void valuesChanged();
     void selectedChanged();
+    void visualFocusChanged();
     void stateChangeAnimationChanged();
 
 protected:
@@ -162,11 +167,24 @@ protected:
     void mouseUngrabEvent() override;
     void touchEvent(QTouchEvent *event) override;
     void touchUngrabEvent() override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void installController(M13CheckboxController *controller);
+    // Applies a change of look that differs from the current one, and tells the owner.
+    template <typename T, typename Apply>
+    void changeAppearance(const T &value, const T &current, Apply apply);
+    // The same for a size or shape the path generator keeps; the layers are redrawn at once.
+    template <typename T>
+    void changeGeometry(T value, T current, void (M13CheckboxPathGenerator::*set)(T));
     void updateSizes();
     void setSelected(bool selected);
+    void setVisualFocus(bool visualFocus);
+    // A toggle the user asked for: the state flips with animation and the owner hears of it.
+    void toggleByUser();
     void attachAccessibility();
     void updateAccessibleState();
 
@@ -183,6 +201,8 @@ private:
     QVariant m_uncheckedValue;
     QVariant m_mixedValue;
     bool m_selected = false;
+    bool m_visualFocus = false;
+    bool m_spaceHeld = false;
     bool m_checkmarkLineWidthSet = false;
     bool m_cornerRadiusSet = false;
     QPointer<QObject> m_accessible;

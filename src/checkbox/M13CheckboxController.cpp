@@ -17,10 +17,11 @@ M13CheckboxLayer withOpacity(M13CheckboxLayer layer, qreal opacity)
 
 } // namespace
 
-M13CheckboxController::M13CheckboxController(QObject *parent)
+M13CheckboxController::M13CheckboxController(const Effect &effect, bool fillsBox, QObject *parent)
     : QObject(parent),
-      m_pathGenerator(M13CheckboxPathGenerator::create(MarkType::Checkmark)),
-      m_tintColor(0x0d, 0x26, 0x99)
+      m_effect(effect),
+      m_fillsBox(fillsBox),
+      m_pathGenerator(M13CheckboxPathGenerator::create(m_settings.markType))
 {
 }
 
@@ -50,64 +51,58 @@ M13CheckboxController *M13CheckboxController::create(const M13Checkbox::Animatio
 
 void M13CheckboxController::copySettings(const M13CheckboxController &other)
 {
-    m_state = other.m_state;
-    m_tintColor = other.m_tintColor;
-    m_secondaryTintColor = other.m_secondaryTintColor;
-    m_secondaryCheckmarkTintColor = other.m_secondaryCheckmarkTintColor;
-    m_hideBox = other.m_hideBox;
-    m_enableMorphing = other.m_enableMorphing;
-    m_markType = other.m_markType;
-    m_pathGenerator = M13CheckboxPathGenerator::create(m_markType);
+    m_settings = other.m_settings;
+    m_pathGenerator = M13CheckboxPathGenerator::create(m_settings.markType);
     m_pathGenerator->copySettings(*other.m_pathGenerator);
     m_animationGenerator = other.m_animationGenerator;
 }
 
 void M13CheckboxController::setTintColor(const QColor &color)
 {
-    m_tintColor = color;
+    m_settings.tintColor = color;
     resetLayers();
 }
 
 void M13CheckboxController::setSecondaryTintColor(std::optional<QColor> color)
 {
-    m_secondaryTintColor = color;
+    m_settings.secondaryTintColor = color;
     resetLayers();
 }
 
 void M13CheckboxController::setSecondaryCheckmarkTintColor(std::optional<QColor> color)
 {
-    m_secondaryCheckmarkTintColor = color;
+    m_settings.secondaryCheckmarkTintColor = color;
     resetLayers();
 }
 
 void M13CheckboxController::setHideBox(bool hide)
 {
-    m_hideBox = hide;
+    m_settings.hideBox = hide;
     resetLayers();
 }
 
 void M13CheckboxController::setMarkType(MarkType type)
 {
-    if (type == m_markType)
+    if (type == m_settings.markType)
         return;
     auto generator = M13CheckboxPathGenerator::create(type);
     generator->copySettings(*m_pathGenerator);
     m_pathGenerator = std::move(generator);
-    m_markType = type;
+    m_settings.markType = type;
     resetLayers();
 }
 
 QColor M13CheckboxController::secondaryTint() const
 {
-    return m_secondaryTintColor.value_or(DefaultSecondaryTint);
+    return m_settings.secondaryTintColor.value_or(DefaultSecondaryTint);
 }
 
 QColor M13CheckboxController::markColor() const
 {
     // A mark on a tinted fill is drawn light; without a box behind it, it takes the tint.
-    if (fillsBox() && !m_hideBox)
-        return m_secondaryCheckmarkTintColor.value_or(QColor(Qt::white));
-    return m_tintColor;
+    if (m_fillsBox && !m_settings.hideBox)
+        return m_settings.secondaryCheckmarkTintColor.value_or(QColor(Qt::white));
+    return m_settings.tintColor;
 }
 
 M13CheckboxLayer M13CheckboxController::unselectedBox() const
@@ -117,7 +112,7 @@ M13CheckboxLayer M13CheckboxController::unselectedBox() const
     layer.strokeColor = secondaryTint();
     layer.lineWidth = m_pathGenerator->boxLineWidth();
     layer.lineCap = Qt::FlatCap;
-    layer.opacity = m_hideBox ? 0 : 1;
+    layer.opacity = m_settings.hideBox ? 0 : 1;
     return layer;
 }
 
@@ -125,18 +120,23 @@ M13CheckboxLayer M13CheckboxController::shownBox() const
 {
     M13CheckboxLayer layer;
     layer.path = m_pathGenerator->boxPath();
-    layer.strokeColor = m_tintColor;
-    if (fillsBox()) {
-        layer.fillColor = m_tintColor;
+    layer.strokeColor = m_settings.tintColor;
+    if (m_fillsBox) {
+        layer.fillColor = m_settings.tintColor;
     } else {
         // A wash of the tint inside the outline reads as "on" even at a glance.
-        QColor wash = m_tintColor;
+        QColor wash = m_settings.tintColor;
         wash.setAlphaF(wash.alphaF() * 0.08f);
         layer.fillColor = wash;
     }
     layer.lineWidth = m_pathGenerator->boxLineWidth();
     layer.lineCap = Qt::FlatCap;
-    layer.opacity = m_hideBox ? 0 : 1;
+    layer.opacity = m_settings.hideBox ? 0 : 1;
+    if (m_effect.floods) {
+        // A hole that has closed to nothing: the flood has reached the middle.
+        layer.path.addPath(layer.path.scaled(m_pathGenerator->centre(), 0, 0));
+        layer.fillRule = Qt::OddEvenFill;
+    }
     return layer;
 }
 
@@ -150,11 +150,62 @@ M13CheckboxLayer M13CheckboxController::shownMark(CheckState state) const
     return layer;
 }
 
+M13CheckboxLayer M13CheckboxController::hidden(const M13CheckboxLayer &shown, const Hiding &hiding) const
+{
+    M13CheckboxLayer layer = shown;
+    if (hiding.undrawn) {
+        layer.strokeEnd = 0;
+        layer.fillColor = Qt::transparent;
+    }
+    if (hiding.squeezed)
+        layer.path = shown.path.scaled(m_pathGenerator->centre(), hiding.squeezed->x(), hiding.squeezed->y());
+    layer.scale = hiding.scale;
+    layer.rotation = hiding.rotation;
+    if (hiding.faded)
+        layer.opacity = 0;
+    if (hiding.lineWidth)
+        layer.lineWidth = *hiding.lineWidth;
+    return layer;
+}
+
+M13CheckboxLayer M13CheckboxController::hiddenBox(const M13CheckboxLayer &shown) const
+{
+    if (m_effect.floods) {
+        // Before the flood the hole is the whole box.
+        M13CheckboxLayer layer = shown;
+        layer.path = m_pathGenerator->boxPath();
+        layer.path.addPath(m_pathGenerator->boxPath());
+        layer.opacity = 0;
+        return layer;
+    }
+    return hidden(shown, m_effect.box);
+}
+
+M13CheckboxLayer M13CheckboxController::hiddenMark(const M13CheckboxLayer &shown) const
+{
+    return hidden(shown, m_effect.mark);
+}
+
+M13CheckboxLayerAnimation M13CheckboxController::entrance(M13CheckboxLayer *target, const Entrance &entrance,
+                                                          const M13CheckboxLayer &hidden,
+                                                          const M13CheckboxLayer &shown) const
+{
+    M13CheckboxLayerAnimation animation =
+        m_animationGenerator.appearance(target, hidden, shown, entrance.motion, entrance.begin, entrance.end);
+    if (const auto &reveal = entrance.reveal) {
+        M13CheckboxLayer revealed = withOpacity(hidden, shown.opacity);
+        if (reveal->checkmarkWidths > 0)
+            revealed.lineWidth = reveal->checkmarkWidths * m_pathGenerator->checkmarkLineWidth();
+        animation.keyframes.insert(1, {reveal->at, revealed, M13CheckboxAnimationGenerator::easing(reveal->motion)});
+    }
+    return animation;
+}
+
 void M13CheckboxController::resetLayers()
 {
     stopTransition();
-    m_boxShown = m_state != CheckState::Unchecked;
-    m_markShown = m_boxShown ? std::optional(m_state) : std::nullopt;
+    m_boxShown = m_settings.state != CheckState::Unchecked;
+    m_markShown = m_boxShown ? std::optional(m_settings.state) : std::nullopt;
     m_unselectedBoxLayer = withOpacity(unselectedBox(), m_boxShown ? 0 : unselectedBox().opacity);
     const M13CheckboxLayer box = shownBox();
     m_selectedBoxLayer = m_boxShown ? box : hiddenBox(box);
@@ -165,13 +216,13 @@ void M13CheckboxController::resetLayers()
 
 void M13CheckboxController::animateToState(std::function<void()> completion)
 {
-    const bool hasMark = m_state != CheckState::Unchecked;
-    animateTo(hasMark, hasMark ? std::optional(m_state) : std::nullopt, std::move(completion));
+    const bool hasMark = m_settings.state != CheckState::Unchecked;
+    animateTo(hasMark, hasMark ? std::optional(m_settings.state) : std::nullopt, std::move(completion));
 }
 
 void M13CheckboxController::animateToNoMark(std::function<void()> completion)
 {
-    animateTo(m_state != CheckState::Unchecked, std::nullopt, std::move(completion));
+    animateTo(m_settings.state != CheckState::Unchecked, std::nullopt, std::move(completion));
 }
 
 void M13CheckboxController::animateTo(bool boxShown, std::optional<CheckState> mark, std::function<void()> completion)
@@ -183,7 +234,7 @@ void M13CheckboxController::animateTo(bool boxShown, std::optional<CheckState> m
     const M13CheckboxLayer box = shownBox();
     const M13CheckboxLayer boxTarget = boxShown ? box : hiddenBox(box);
     if (boxShown != m_boxShown) {
-        const M13CheckboxLayerAnimation in = boxAppearance(&m_selectedBoxLayer, hiddenBox(box), box);
+        const M13CheckboxLayerAnimation in = entrance(&m_selectedBoxLayer, m_effect.boxIn, hiddenBox(box), box);
         animations.append((boxShown ? in : in.reversed()).startingFrom(m_selectedBoxLayer));
         // The grey outline gives way once the selected box covers it, and is back before it goes.
         const M13CheckboxLayer outline = unselectedBox();
@@ -198,15 +249,16 @@ void M13CheckboxController::animateTo(bool boxShown, std::optional<CheckState> m
     }
 
     if (mark && m_markShown && *mark != *m_markShown) {
-        animations.append(m_animationGenerator.morph(&m_markLayer, m_markLayer, shownMark(*mark), markMorphMotion()));
+        animations.append(m_animationGenerator.morph(&m_markLayer, m_markLayer, shownMark(*mark), m_effect.markMorph));
     } else if (mark && !m_markShown) {
         const M13CheckboxLayer shown = shownMark(*mark);
-        M13CheckboxLayerAnimation in = markAppearance(&m_markLayer, hiddenMark(shown), shown);
+        M13CheckboxLayerAnimation in = entrance(&m_markLayer, m_effect.markIn, hiddenMark(shown), shown);
         // From rest the mark starts hidden in its new shape; cut short, it carries on from where it is.
         animations.append(interrupted ? in.startingFrom(m_markLayer) : in);
     } else if (!mark && m_markShown) {
         const M13CheckboxLayer shown = shownMark(*m_markShown);
-        animations.append(markAppearance(&m_markLayer, hiddenMark(shown), shown).reversed().startingFrom(m_markLayer));
+        animations.append(
+            entrance(&m_markLayer, m_effect.markIn, hiddenMark(shown), shown).reversed().startingFrom(m_markLayer));
     } else if (interrupted) {
         const M13CheckboxLayer shown = shownMark(mark.value_or(CheckState::Checked));
         animations.append(m_animationGenerator.morph(&m_markLayer, m_markLayer, mark ? shown : hiddenMark(shown)));
@@ -250,282 +302,113 @@ void M13CheckboxController::paint(QPainter *painter) const
     m_markLayer.paint(painter, centre);
 }
 
-// Stroke
+// The effects. Times are fractions of the change; the box comes in first and the mark after it,
+// overlapping.
 
-M13CheckboxLayer M13CheckboxStrokeController::hiddenBox(const M13CheckboxLayer &shown) const
+namespace {
+
+// The box outline is drawn round in the tint and the mark drawn on after it.
+const M13CheckboxController::Effect StrokeEffect{
+    .box = {.undrawn = true},
+    .mark = {.undrawn = true},
+    .boxIn = {Motion::Draw, 0, 0.65},
+    .markIn = {Motion::Draw, 0.35, 1},
+};
+
+// The rim takes the tint first, the tint closes in on the centre, then the mark is drawn on in white.
+const M13CheckboxController::Effect FillEffect{
+    .mark = {.undrawn = true},
+    .boxIn = {Motion::Morph, 0, 0.7, {{0.2, Motion::Fade}}},
+    .markIn = {Motion::Draw, 0.5, 1},
+    .floods = true,
+};
+
+// The outline is drawn round while the mark turns in from a three-quarter turn, growing.
+const M13CheckboxController::Effect SpiralEffect{
+    .box = {.undrawn = true},
+    .mark = {.scale = 0, .rotation = -270, .faded = true},
+    .boxIn = {Motion::Draw, 0, 0.8},
+    .markIn = {Motion::Grow, 0.1, 1},
+};
+
+// Box and mark pop up from nothing and settle as if on a spring.
+const M13CheckboxController::Effect BounceEffect{
+    .box = {.scale = 0},
+    .mark = {.scale = 0},
+    .boxIn = {Motion::Spring, 0, 0.8},
+    .markIn = {Motion::Spring, 0.2, 1},
+    .markMorph = Motion::Spring,
+};
+
+// The box widens out from the centre (its line keeps its width), then the mark grows in it.
+const M13CheckboxController::Effect ExpandEffect{
+    .box = {.squeezed = QPointF(0, 0), .faded = true},
+    .mark = {.scale = 0, .faded = true},
+    .boxIn = {Motion::Grow, 0, 0.6},
+    .markIn = {Motion::Grow, 0.4, 1},
+};
+
+// Box and mark unfold from a flat line across the middle.
+const M13CheckboxController::Effect FlatEffect{
+    .box = {.squeezed = QPointF(1, 0), .faded = true},
+    .mark = {.squeezed = QPointF(1, 0), .faded = true},
+    .boxIn = {Motion::Grow, 0, 0.65, {{0.12, Motion::Fade}}},
+    .markIn = {Motion::Grow, 0.3, 1, {{0.42, Motion::Fade}}},
+};
+
+// Box and mark simply fade in and out.
+const M13CheckboxController::Effect FadeEffect{
+    .box = {.faded = true},
+    .mark = {.faded = true},
+    .boxIn = {Motion::Fade, 0, 0.7},
+    .markIn = {Motion::Fade, 0.3, 1},
+};
+
+// A dot appears in the middle and unfurls into the mark.
+const M13CheckboxController::Effect DotEffect{
+    .box = {.squeezed = QPointF(0.8, 0.8), .faded = true},
+    .mark = {.squeezed = QPointF(0, 0), .faded = true, .lineWidth = 0},
+    .boxIn = {Motion::Grow, 0, 0.6},
+    .markIn = {Motion::Grow, 0.15, 1, {{0.4, Motion::Spring, 2.4}}},
+};
+
+} // namespace
+
+M13CheckboxStrokeController::M13CheckboxStrokeController(QObject *parent)
+    : M13CheckboxController(StrokeEffect, false, parent)
 {
-    M13CheckboxLayer layer = shown;
-    layer.strokeEnd = 0;
-    layer.fillColor = Qt::transparent;
-    return layer;
 }
 
-M13CheckboxLayer M13CheckboxStrokeController::hiddenMark(const M13CheckboxLayer &shown) const
+M13CheckboxFillController::M13CheckboxFillController(QObject *parent) : M13CheckboxController(FillEffect, true, parent)
 {
-    M13CheckboxLayer layer = shown;
-    layer.strokeEnd = 0;
-    return layer;
 }
 
-M13CheckboxLayerAnimation M13CheckboxStrokeController::boxAppearance(M13CheckboxLayer *target,
-                                                                     const M13CheckboxLayer &hidden,
-                                                                     const M13CheckboxLayer &shown) const
+M13CheckboxSpiralController::M13CheckboxSpiralController(QObject *parent)
+    : M13CheckboxController(SpiralEffect, false, parent)
 {
-    return animationGenerator().appearance(target, hidden, shown, Motion::Draw, 0, 0.65);
 }
 
-M13CheckboxLayerAnimation M13CheckboxStrokeController::markAppearance(M13CheckboxLayer *target,
-                                                                      const M13CheckboxLayer &hidden,
-                                                                      const M13CheckboxLayer &shown) const
+M13CheckboxBounceController::M13CheckboxBounceController(AnimationStyle style, QObject *parent)
+    : M13CheckboxStyledController(BounceEffect, style, parent)
 {
-    return animationGenerator().appearance(target, hidden, shown, Motion::Draw, 0.35, 1);
 }
 
-// Fill
-
-M13CheckboxLayer M13CheckboxFillController::shownBox() const
+M13CheckboxExpandController::M13CheckboxExpandController(AnimationStyle style, QObject *parent)
+    : M13CheckboxStyledController(ExpandEffect, style, parent)
 {
-    // The box with a hole that closes to nothing: the flood has reached the middle.
-    M13CheckboxLayer layer = M13CheckboxController::shownBox();
-    const M13CheckboxPath outline = layer.path;
-    layer.path.addPath(outline.scaled(pathGenerator().centre(), 0, 0));
-    layer.fillRule = Qt::OddEvenFill;
-    return layer;
 }
 
-M13CheckboxLayer M13CheckboxFillController::hiddenBox(const M13CheckboxLayer &shown) const
+M13CheckboxFlatController::M13CheckboxFlatController(AnimationStyle style, QObject *parent)
+    : M13CheckboxStyledController(FlatEffect, style, parent)
 {
-    M13CheckboxLayer layer = M13CheckboxController::shownBox();
-    const M13CheckboxPath outline = layer.path;
-    layer.path.addPath(outline);
-    layer.fillRule = Qt::OddEvenFill;
-    layer.opacity = 0;
-    layer.strokeColor = shown.strokeColor;
-    return layer;
 }
 
-M13CheckboxLayer M13CheckboxFillController::hiddenMark(const M13CheckboxLayer &shown) const
+M13CheckboxFadeController::M13CheckboxFadeController(AnimationStyle style, QObject *parent)
+    : M13CheckboxStyledController(FadeEffect, style, parent)
 {
-    M13CheckboxLayer layer = shown;
-    layer.strokeEnd = 0;
-    return layer;
 }
 
-M13CheckboxLayerAnimation M13CheckboxFillController::boxAppearance(M13CheckboxLayer *target,
-                                                                   const M13CheckboxLayer &hidden,
-                                                                   const M13CheckboxLayer &shown) const
+M13CheckboxDotController::M13CheckboxDotController(AnimationStyle style, QObject *parent)
+    : M13CheckboxStyledController(DotEffect, style, parent)
 {
-    // The rim takes the tint first, then the tint closes in on the centre.
-    M13CheckboxLayer rim = hidden;
-    rim.opacity = shown.opacity;
-    return {target,
-            {{0, hidden},
-             {0.2, rim, M13CheckboxAnimationGenerator::easing(Motion::Fade)},
-             {0.7, shown, M13CheckboxAnimationGenerator::easing(Motion::Morph)}}};
-}
-
-M13CheckboxLayerAnimation M13CheckboxFillController::markAppearance(M13CheckboxLayer *target,
-                                                                    const M13CheckboxLayer &hidden,
-                                                                    const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Draw, 0.5, 1);
-}
-
-// Bounce
-
-M13CheckboxLayer M13CheckboxBounceController::hiddenBox(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.scale = 0;
-    return layer;
-}
-
-M13CheckboxLayer M13CheckboxBounceController::hiddenMark(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.scale = 0;
-    return layer;
-}
-
-M13CheckboxLayerAnimation M13CheckboxBounceController::boxAppearance(M13CheckboxLayer *target,
-                                                                     const M13CheckboxLayer &hidden,
-                                                                     const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Spring, 0, 0.8);
-}
-
-M13CheckboxLayerAnimation M13CheckboxBounceController::markAppearance(M13CheckboxLayer *target,
-                                                                      const M13CheckboxLayer &hidden,
-                                                                      const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Spring, 0.2, 1);
-}
-
-// Expand
-
-M13CheckboxLayer M13CheckboxExpandController::hiddenBox(const M13CheckboxLayer &shown) const
-{
-    // The outline itself shrinks to the centre; its line keeps its width.
-    M13CheckboxLayer layer = shown;
-    layer.path = shown.path.scaled(pathGenerator().centre(), 0, 0);
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayer M13CheckboxExpandController::hiddenMark(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.scale = 0;
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayerAnimation M13CheckboxExpandController::boxAppearance(M13CheckboxLayer *target,
-                                                                     const M13CheckboxLayer &hidden,
-                                                                     const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Grow, 0, 0.6);
-}
-
-M13CheckboxLayerAnimation M13CheckboxExpandController::markAppearance(M13CheckboxLayer *target,
-                                                                      const M13CheckboxLayer &hidden,
-                                                                      const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Grow, 0.4, 1);
-}
-
-// Flat
-
-M13CheckboxLayer M13CheckboxFlatController::hiddenBox(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.path = shown.path.scaled(pathGenerator().centre(), 1, 0);
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayer M13CheckboxFlatController::hiddenMark(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.path = shown.path.scaled(pathGenerator().centre(), 1, 0);
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayerAnimation M13CheckboxFlatController::boxAppearance(M13CheckboxLayer *target,
-                                                                   const M13CheckboxLayer &hidden,
-                                                                   const M13CheckboxLayer &shown) const
-{
-    return {target,
-            {{0, hidden},
-             {0.12, withOpacity(hidden, shown.opacity), M13CheckboxAnimationGenerator::easing(Motion::Fade)},
-             {0.65, shown, M13CheckboxAnimationGenerator::easing(Motion::Grow)}}};
-}
-
-M13CheckboxLayerAnimation M13CheckboxFlatController::markAppearance(M13CheckboxLayer *target,
-                                                                    const M13CheckboxLayer &hidden,
-                                                                    const M13CheckboxLayer &shown) const
-{
-    return {target,
-            {{0.3, hidden},
-             {0.42, withOpacity(hidden, shown.opacity), M13CheckboxAnimationGenerator::easing(Motion::Fade)},
-             {1, shown, M13CheckboxAnimationGenerator::easing(Motion::Grow)}}};
-}
-
-// Spiral
-
-M13CheckboxLayer M13CheckboxSpiralController::hiddenBox(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.strokeEnd = 0;
-    layer.fillColor = Qt::transparent;
-    return layer;
-}
-
-M13CheckboxLayer M13CheckboxSpiralController::hiddenMark(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.scale = 0;
-    layer.rotation = -270;
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayerAnimation M13CheckboxSpiralController::boxAppearance(M13CheckboxLayer *target,
-                                                                     const M13CheckboxLayer &hidden,
-                                                                     const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Draw, 0, 0.8);
-}
-
-M13CheckboxLayerAnimation M13CheckboxSpiralController::markAppearance(M13CheckboxLayer *target,
-                                                                      const M13CheckboxLayer &hidden,
-                                                                      const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Grow, 0.1, 1);
-}
-
-// Fade
-
-M13CheckboxLayer M13CheckboxFadeController::hiddenBox(const M13CheckboxLayer &shown) const
-{
-    return withOpacity(shown, 0);
-}
-
-M13CheckboxLayer M13CheckboxFadeController::hiddenMark(const M13CheckboxLayer &shown) const
-{
-    return withOpacity(shown, 0);
-}
-
-M13CheckboxLayerAnimation M13CheckboxFadeController::boxAppearance(M13CheckboxLayer *target,
-                                                                   const M13CheckboxLayer &hidden,
-                                                                   const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Fade, 0, 0.7);
-}
-
-M13CheckboxLayerAnimation M13CheckboxFadeController::markAppearance(M13CheckboxLayer *target,
-                                                                    const M13CheckboxLayer &hidden,
-                                                                    const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Fade, 0.3, 1);
-}
-
-// Dot
-
-M13CheckboxLayer M13CheckboxDotController::hiddenBox(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.path = shown.path.scaled(pathGenerator().centre(), 0.8, 0.8);
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayer M13CheckboxDotController::hiddenMark(const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer layer = shown;
-    layer.path = shown.path.scaled(pathGenerator().centre(), 0, 0);
-    layer.lineWidth = 0;
-    layer.opacity = 0;
-    return layer;
-}
-
-M13CheckboxLayerAnimation M13CheckboxDotController::boxAppearance(M13CheckboxLayer *target,
-                                                                  const M13CheckboxLayer &hidden,
-                                                                  const M13CheckboxLayer &shown) const
-{
-    return animationGenerator().appearance(target, hidden, shown, Motion::Grow, 0, 0.6);
-}
-
-M13CheckboxLayerAnimation M13CheckboxDotController::markAppearance(M13CheckboxLayer *target,
-                                                                   const M13CheckboxLayer &hidden,
-                                                                   const M13CheckboxLayer &shown) const
-{
-    M13CheckboxLayer dot = hidden;
-    dot.opacity = shown.opacity;
-    dot.lineWidth = 2.4 * pathGenerator().checkmarkLineWidth();
-    return {target,
-            {{0.15, hidden},
-             {0.4, dot, M13CheckboxAnimationGenerator::easing(Motion::Spring)},
-             {1, shown, M13CheckboxAnimationGenerator::easing(Motion::Grow)}}};
 }

@@ -13,8 +13,9 @@
 #include <optional>
 
 // Owns the check box's state, colours and three layers, and animates the layers from one state
-// to another. Each subclass is one effect: it says how the selected box and the mark look when
-// hidden and how they come in; going out is the same motion played backwards.
+// to another. Each subclass is one effect, given to this class as an `Effect`: how the selected
+// box and the mark look when hidden and how they come in; going out is the same motion played
+// backwards.
 class M13CheckboxController : public QObject
 {
     Q_OBJECT
@@ -25,7 +26,46 @@ public:
     using AnimationStyle = M13Checkbox::AnimationStyle;
     using Motion = M13CheckboxAnimationGenerator::Motion;
 
-    explicit M13CheckboxController(QObject *parent = nullptr);
+    // What a layer gives up to be hidden; everything else stays as it is shown.
+    struct Hiding
+    {
+        bool undrawn = false;                 // no stroke drawn yet and nothing inside
+        std::optional<QPointF> squeezed = {}; // the path scaled about the centre by x and y
+        qreal scale = 1;                      // the whole layer, line included
+        qreal rotation = 0;                   // degrees
+        bool faded = false;                   // opacity 0
+        std::optional<qreal> lineWidth = {};
+    };
+
+    // How a layer comes in between two fractions of the change. With `reveal`, the hidden look
+    // first turns visible in place (the fill's rim, the flat line, the dot), then becomes the shown one.
+    struct Entrance
+    {
+        struct Reveal
+        {
+            qreal at;
+            Motion motion;
+            qreal checkmarkWidths = 0; // the line width then, in checkmark line widths; 0 keeps it
+        };
+
+        Motion motion;
+        qreal begin;
+        qreal end;
+        std::optional<Reveal> reveal = {};
+    };
+
+    struct Effect
+    {
+        Hiding box = {};
+        Hiding mark = {};
+        Entrance boxIn;
+        Entrance markIn;
+        // Between a checkmark and a bar, when morphing.
+        Motion markMorph = Motion::Morph;
+        // The shown box is a tinted ring whose hole has closed; hidden, the hole is the whole box.
+        bool floods = false;
+    };
+
     static M13CheckboxController *create(const M13Checkbox::Animation &animation, QObject *parent = nullptr);
     // Takes over another controller's state, colours and settings.
     void copySettings(const M13CheckboxController &other);
@@ -35,21 +75,21 @@ public:
     M13CheckboxAnimationGenerator &animationGenerator() { return m_animationGenerator; }
     const M13CheckboxAnimationGenerator &animationGenerator() const { return m_animationGenerator; }
 
-    CheckState state() const { return m_state; }
+    CheckState state() const { return m_settings.state; }
     // Only records the state; the owner then resets or animates the layers.
-    void setState(CheckState state) { m_state = state; }
+    void setState(CheckState state) { m_settings.state = state; }
 
-    QColor tintColor() const { return m_tintColor; }
+    QColor tintColor() const { return m_settings.tintColor; }
     void setTintColor(const QColor &color);
-    std::optional<QColor> secondaryTintColor() const { return m_secondaryTintColor; }
+    std::optional<QColor> secondaryTintColor() const { return m_settings.secondaryTintColor; }
     void setSecondaryTintColor(std::optional<QColor> color);
-    std::optional<QColor> secondaryCheckmarkTintColor() const { return m_secondaryCheckmarkTintColor; }
+    std::optional<QColor> secondaryCheckmarkTintColor() const { return m_settings.secondaryCheckmarkTintColor; }
     void setSecondaryCheckmarkTintColor(std::optional<QColor> color);
-    bool hideBox() const { return m_hideBox; }
+    bool hideBox() const { return m_settings.hideBox; }
     void setHideBox(bool hide);
-    bool enableMorphing() const { return m_enableMorphing; }
-    void setEnableMorphing(bool enable) { m_enableMorphing = enable; }
-    MarkType markType() const { return m_markType; }
+    bool enableMorphing() const { return m_settings.enableMorphing; }
+    void setEnableMorphing(bool enable) { m_settings.enableMorphing = enable; }
+    MarkType markType() const { return m_settings.markType; }
     // Swaps in the generator for the new mark, keeping its sizes.
     void setMarkType(MarkType type);
 
@@ -73,36 +113,42 @@ Q_SIGNALS:
     void layersChanged();
 
 protected:
-    virtual bool fillsBox() const { return false; }
-    // The looks at rest in a checked or mixed state.
-    virtual M13CheckboxLayer shownBox() const;
+    // `fillsBox`: the selected box is filled with the tint and the mark drawn light on it.
+    M13CheckboxController(const Effect &effect, bool fillsBox, QObject *parent);
+
+private:
+    // The looks at rest in a checked or mixed state, and hidden.
+    M13CheckboxLayer shownBox() const;
     M13CheckboxLayer shownMark(CheckState state) const;
     M13CheckboxLayer unselectedBox() const;
+    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const;
+    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const;
+    M13CheckboxLayer hidden(const M13CheckboxLayer &shown, const Hiding &hiding) const;
+    M13CheckboxLayerAnimation entrance(M13CheckboxLayer *target, const Entrance &entrance,
+                                       const M13CheckboxLayer &hidden, const M13CheckboxLayer &shown) const;
     QColor secondaryTint() const;
     QColor markColor() const;
 
-    virtual M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const = 0;
-    virtual M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const = 0;
-    virtual M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                                    const M13CheckboxLayer &shown) const = 0;
-    virtual M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                                     const M13CheckboxLayer &shown) const = 0;
-    // Between a checkmark and a bar, when morphing.
-    virtual Motion markMorphMotion() const { return Motion::Morph; }
-
-private:
     void animateTo(bool boxShown, std::optional<CheckState> mark, std::function<void()> completion);
     void stopTransition();
 
+    // What carries over to the controller of another effect.
+    struct Settings
+    {
+        CheckState state = CheckState::Unchecked;
+        QColor tintColor{0x0d, 0x26, 0x99};
+        std::optional<QColor> secondaryTintColor;
+        std::optional<QColor> secondaryCheckmarkTintColor;
+        bool hideBox = false;
+        bool enableMorphing = true;
+        MarkType markType = MarkType::Checkmark;
+    };
+
+    const Effect &m_effect;
+    const bool m_fillsBox;
+    Settings m_settings;
     std::unique_ptr<M13CheckboxPathGenerator> m_pathGenerator;
     M13CheckboxAnimationGenerator m_animationGenerator;
-    CheckState m_state = CheckState::Unchecked;
-    QColor m_tintColor;
-    std::optional<QColor> m_secondaryTintColor;
-    std::optional<QColor> m_secondaryCheckmarkTintColor;
-    bool m_hideBox = false;
-    bool m_enableMorphing = true;
-    MarkType m_markType = MarkType::Checkmark;
 
     M13CheckboxLayer m_markLayer;
     M13CheckboxLayer m_selectedBoxLayer;
@@ -113,38 +159,27 @@ private:
     QPointer<M13CheckboxTransition> m_transition;
 };
 
-// The default: the box outline is drawn round in the tint and the mark drawn on after it.
+// The effects below differ only in their `Effect`, described where it is defined.
+
 class M13CheckboxStrokeController : public M13CheckboxController
 {
     Q_OBJECT
 public:
-    using M13CheckboxController::M13CheckboxController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
+    explicit M13CheckboxStrokeController(QObject *parent = nullptr);
 };
 
-// The tint floods the box from its rim inwards, then the mark is drawn on in white.
 class M13CheckboxFillController : public M13CheckboxController
 {
     Q_OBJECT
 public:
-    using M13CheckboxController::M13CheckboxController;
+    explicit M13CheckboxFillController(QObject *parent = nullptr);
+};
 
-protected:
-    bool fillsBox() const override { return true; }
-    M13CheckboxLayer shownBox() const override;
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
+class M13CheckboxSpiralController : public M13CheckboxController
+{
+    Q_OBJECT
+public:
+    explicit M13CheckboxSpiralController(QObject *parent = nullptr);
 };
 
 // The effects that come in a stroke and a fill style.
@@ -152,112 +187,49 @@ class M13CheckboxStyledController : public M13CheckboxController
 {
     Q_OBJECT
 public:
-    explicit M13CheckboxStyledController(AnimationStyle style, QObject *parent = nullptr)
-        : M13CheckboxController(parent), m_style(style)
-    {
-    }
     AnimationStyle style() const { return m_style; }
 
 protected:
-    bool fillsBox() const override { return m_style == AnimationStyle::Fill; }
+    M13CheckboxStyledController(const Effect &effect, AnimationStyle style, QObject *parent)
+        : M13CheckboxController(effect, style == AnimationStyle::Fill, parent), m_style(style)
+    {
+    }
 
 private:
     AnimationStyle m_style;
 };
 
-// Box and mark pop up from nothing and settle as if on a spring.
 class M13CheckboxBounceController : public M13CheckboxStyledController
 {
     Q_OBJECT
 public:
-    using M13CheckboxStyledController::M13CheckboxStyledController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
-    Motion markMorphMotion() const override { return Motion::Spring; }
+    explicit M13CheckboxBounceController(AnimationStyle style, QObject *parent = nullptr);
 };
 
-// The box widens out from the centre, then the mark grows in it.
 class M13CheckboxExpandController : public M13CheckboxStyledController
 {
     Q_OBJECT
 public:
-    using M13CheckboxStyledController::M13CheckboxStyledController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
+    explicit M13CheckboxExpandController(AnimationStyle style, QObject *parent = nullptr);
 };
 
-// Box and mark unfold from a flat line across the middle.
 class M13CheckboxFlatController : public M13CheckboxStyledController
 {
     Q_OBJECT
 public:
-    using M13CheckboxStyledController::M13CheckboxStyledController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
+    explicit M13CheckboxFlatController(AnimationStyle style, QObject *parent = nullptr);
 };
 
-// The outline is drawn round while the mark turns in from a three-quarter turn, growing.
-class M13CheckboxSpiralController : public M13CheckboxController
-{
-    Q_OBJECT
-public:
-    using M13CheckboxController::M13CheckboxController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
-};
-
-// Box and mark simply fade in and out.
 class M13CheckboxFadeController : public M13CheckboxStyledController
 {
     Q_OBJECT
 public:
-    using M13CheckboxStyledController::M13CheckboxStyledController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
+    explicit M13CheckboxFadeController(AnimationStyle style, QObject *parent = nullptr);
 };
 
-// A dot appears in the middle and unfurls into the mark.
 class M13CheckboxDotController : public M13CheckboxStyledController
 {
     Q_OBJECT
 public:
-    using M13CheckboxStyledController::M13CheckboxStyledController;
-
-protected:
-    M13CheckboxLayer hiddenBox(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayer hiddenMark(const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation boxAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                            const M13CheckboxLayer &shown) const override;
-    M13CheckboxLayerAnimation markAppearance(M13CheckboxLayer *target, const M13CheckboxLayer &hidden,
-                                             const M13CheckboxLayer &shown) const override;
+    explicit M13CheckboxDotController(AnimationStyle style, QObject *parent = nullptr);
 };

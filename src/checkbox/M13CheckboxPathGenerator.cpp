@@ -28,11 +28,7 @@ std::unique_ptr<M13CheckboxPathGenerator> M13CheckboxPathGenerator::create(MarkT
 
 void M13CheckboxPathGenerator::copySettings(const M13CheckboxPathGenerator &other)
 {
-    m_size = other.m_size;
-    m_checkmarkLineWidth = other.m_checkmarkLineWidth;
-    m_boxLineWidth = other.m_boxLineWidth;
-    m_cornerRadius = other.m_cornerRadius;
-    m_boxType = other.m_boxType;
+    M13CheckboxPathGenerator::operator=(other);
 }
 
 M13CheckboxPath M13CheckboxPathGenerator::boxPath() const
@@ -79,7 +75,7 @@ qreal M13CheckboxPathGenerator::markLineWidth(CheckState) const
 M13CheckboxPath M13CheckboxPathGenerator::mixedMark() const
 {
     const QPointF c = centre();
-    const qreal half = innerRadius() * 0.55 * boxRoom();
+    const qreal half = barHalfLength();
     M13CheckboxPath path;
     path.moveTo(c + QPointF(-half, 0));
     path.lineTo(c + QPointF(-0.3 * half, 0));
@@ -119,27 +115,16 @@ M13CheckboxPath M13CheckboxRadioPathGenerator::checkedMark() const
     return path;
 }
 
-M13CheckboxPath M13CheckboxAddRemovePathGenerator::checkedMark() const
+M13CheckboxPath M13CheckboxAddRemovePathGenerator::bars(bool upright) const
 {
     const QPointF c = centre();
-    const qreal half = innerRadius() * 0.55 * boxRoom();
+    const QPointF across(barHalfLength(), 0);
+    const QPointF second = upright ? QPointF(0, barHalfLength()) : across;
     M13CheckboxPath path;
-    path.moveTo(c + QPointF(-half, 0));
-    path.lineTo(c + QPointF(half, 0));
-    path.moveTo(c + QPointF(0, -half));
-    path.lineTo(c + QPointF(0, half));
-    return path;
-}
-
-M13CheckboxPath M13CheckboxAddRemovePathGenerator::mixedMark() const
-{
-    const QPointF c = centre();
-    const qreal half = innerRadius() * 0.55 * boxRoom();
-    M13CheckboxPath path;
-    path.moveTo(c + QPointF(-half, 0));
-    path.lineTo(c + QPointF(half, 0));
-    path.moveTo(c + QPointF(-half, 0));
-    path.lineTo(c + QPointF(half, 0));
+    path.moveTo(c - across);
+    path.lineTo(c + across);
+    path.moveTo(c - second);
+    path.lineTo(c + second);
     return path;
 }
 

@@ -36,6 +36,11 @@ public:
     virtual qreal markLineWidth(CheckState state) const;
 
 protected:
+    M13CheckboxPathGenerator() = default;
+    // Copies the sizes and box type, which are all this class holds; a subclass keeps its own.
+    M13CheckboxPathGenerator(const M13CheckboxPathGenerator &) = default;
+    M13CheckboxPathGenerator &operator=(const M13CheckboxPathGenerator &) = default;
+
     virtual M13CheckboxPath checkedMark() const = 0;
     // A level bar through the centre, split where the checkmark bends so the two morph well.
     virtual M13CheckboxPath mixedMark() const;
@@ -43,6 +48,8 @@ protected:
     qreal innerRadius() const { return m_size / 2 - m_boxLineWidth; }
     // Points of a mark are laid out for a circle; a square has room to spare in its corners.
     qreal boxRoom() const { return m_boxType == BoxType::Square ? 1.08 : 1.0; }
+    // Half the length of the level bar of the mixed marks and the plus.
+    qreal barHalfLength() const { return innerRadius() * 0.55 * boxRoom(); }
 
 private:
     qreal m_size = 24;
@@ -96,8 +103,12 @@ protected:
 class M13CheckboxAddRemovePathGenerator : public M13CheckboxPathGenerator
 {
 protected:
-    M13CheckboxPath checkedMark() const override;
-    M13CheckboxPath mixedMark() const override;
+    M13CheckboxPath checkedMark() const override { return bars(true); }
+    M13CheckboxPath mixedMark() const override { return bars(false); }
+
+private:
+    // The level bar, then the second bar: upright, or lying on the first.
+    M13CheckboxPath bars(bool upright) const;
 };
 
 // A chevron pointing right, as on a row that opens more.

@@ -7,4 +7,5 @@ list(APPEND LARKWELLS_SOURCES
 list(APPEND LARKWELLS_QML
     lists/GMNTableViewCell.qml
     lists/MainTableView.qml
+    lists/PageNumberLabel.qml
 )

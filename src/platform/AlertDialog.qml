@@ -17,10 +17,15 @@ Dialog {
         else
             close()
     }
-    Component.onCompleted: Qt.callLater(follow)
+    Component.onCompleted: deferred.restart()
     Connections {
         target: Alerts
-        function onCurrentChanged() { Qt.callLater(dialog.follow) }
+        function onCurrentChanged() { deferred.restart() }
+    }
+    Timer {
+        id: deferred
+        interval: 0
+        onTriggered: dialog.follow()
     }
     title: Alerts.title
     width: Math.min(parent ? parent.width - 48 : 360, 420)
@@ -43,7 +48,6 @@ Dialog {
                 text: modelData
                 flat: true
                 font.capitalization: Font.MixedCase // the alert's own spelling ("Ok")
-                DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
                 Accessible.name: text
                 Accessible.onPressAction: if (visible && enabled) clicked()
                 onClicked: Alerts.dismiss(index)

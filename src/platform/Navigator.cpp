@@ -9,6 +9,9 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"AboutSegue"_s, u"about/AboutTableView.qml"_s},
+          {u"AboutEditSegue"_s, u"about/AboutEditView.qml"_s},
+          {u"AboutNewSegue"_s, u"about/AboutNewView.qml"_s},
           {u"UserDefaultsSegue"_s, u"settings/DefaultsView.qml"_s},
           {u"ViewerWallpaperSegue"_s, u"settings/ViewerWallpaperTableView.qml"_s},
           {u"ListWallpaperSegue"_s, u"settings/ListWallpaperTableView.qml"_s},

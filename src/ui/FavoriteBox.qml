@@ -15,6 +15,11 @@ FocusScope {
     // A tap on a box that only shows the mark (a list row opens instead).
     signal passiveTap()
 
+    // Shows this mark (animated once shown); for rows that follow their page.
+    property bool checked: false
+    onCheckedChanged: box.setCheckState(checked ? 1 : 0, true)
+    Component.onCompleted: if (checked) box.setCheckState(1, false)
+
     function setCheckState(state: int, animated: bool) { box.setCheckState(state, animated) }
     function userToggle() {
         if (!interactive || !visible || !enabled)
@@ -47,6 +52,8 @@ FocusScope {
             implicitHeight: 28
             // The empty circle stands out from the cell colour.
             secondaryTintColor: "#6b6b6b"
+            // The whole box above is the one focus and screen-reader target.
+            activeFocusOnTab: false
             Accessible.ignored: true
         }
         Label {
@@ -54,7 +61,7 @@ FocusScope {
             anchors.verticalCenter: parent.verticalCenter
             text: "Fav"
             color: "black"
-            font.family: favorite.fontFamily || Qt.application.font.family
+            font.family: favorite.fontFamily || Theme.plainFontFamily
             font.pixelSize: favorite.fontSize
         }
     }

@@ -19,7 +19,7 @@ ToolBar {
     Material.foreground: "black"
 
     Shortcut {
-        sequences: [StandardKey.Back, "Esc", "Alt+Left"]
+        sequences: ["Esc", "Alt+Left", "Back"]
         enabled: bar.showBack && bar.visible
         onActivated: bar.backClicked()
     }

@@ -47,7 +47,7 @@ Flickable {
         wrapMode: TextEdit.Wrap
         horizontalAlignment: surface.appearance.styled ? TextEdit.AlignHCenter : TextEdit.AlignLeft
         color: surface.appearance.textColor
-        font.family: surface.appearance.styled ? surface.appearance.FontName : Qt.application.font.family
+        font.family: surface.appearance.styled ? surface.appearance.FontName : Theme.plainFontFamily
         font.pixelSize: surface.appearance.fontSize
         topPadding: 8
         bottomPadding: 48
@@ -58,7 +58,9 @@ Flickable {
         activeFocusOnTab: true
         background: Rectangle {
             color: "transparent"
-            border.width: textView.visualFocus ? Theme.focusRingWidth : 0
+            border.width: textView.activeFocus && (textView.focusReason === Qt.TabFocusReason
+                                                   || textView.focusReason === Qt.BacktabFocusReason)
+                          ? Theme.focusRingWidth : 0
             border.color: Theme.tint
         }
         Accessible.role: Accessible.EditableText
@@ -78,12 +80,12 @@ Flickable {
     }
 
     Shortcut {
-        sequences: [StandardKey.ZoomIn, "Ctrl+="]
+        sequences: ["Ctrl++", "Ctrl+="]
         enabled: surface.visible
         onActivated: surface.sizeStepRequested(1)
     }
     Shortcut {
-        sequences: [StandardKey.ZoomOut]
+        sequences: ["Ctrl+-"]
         enabled: surface.visible
         onActivated: surface.sizeStepRequested(-1)
     }

@@ -37,8 +37,9 @@ ListView {
     Keys.onEnterPressed: openCurrent()
     Keys.onSpacePressed: openCurrent()
     function openCurrent() {
-        if (currentItem && currentItem.clicked)
-            currentItem.clicked()
+        const row = currentItem as AbstractButton
+        if (row)
+            row.clicked()
     }
 
     Label {

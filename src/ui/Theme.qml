@@ -13,6 +13,10 @@ QtObject {
     readonly property color quietText: "#4a4a4a"
     readonly property color readerBackground: "lightgrey"
 
+    // The platform's own text face, for text shown in no chosen font.
+    readonly property string plainFontFamily: plainText.font.family
+    readonly property Text plainText: Text {}
+
     readonly property real cornerRadius: 10
     readonly property real borderWidth: 2
     readonly property real focusRingWidth: 2

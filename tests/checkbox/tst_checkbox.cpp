@@ -1,6 +1,7 @@
 #include "M13Checkbox.h"
 #include "M13CheckboxController.h"
 #include "M13CheckboxPathGenerator.h"
+#include "CheckboxPixels.h"
 #include "TestSupport.h"
 
 #include <QAccessible>
@@ -44,6 +45,10 @@ private Q_SLOTS:
     void morphingDecidesTheWay();
     void accessibility_data();
     void accessibility();
+    void unusableRefusesActions_data();
+    void unusableRefusesActions();
+    void keyboard_data();
+    void keyboard();
 };
 
 namespace {
@@ -518,6 +523,88 @@ void TestCheckbox::accessibility()
     QCOMPARE(scene.box->checkState(), expected);
     QCOMPARE(values.size(), 1);
     QCOMPARE(bool(face->state().checked), expected == CheckState::Checked);
+}
+
+void TestCheckbox::unusableRefusesActions_data()
+{
+    QTest::addColumn<QString>("boxProperties");
+    QTest::addColumn<QString>("action");
+
+    for (const QString &action : {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::toggleAction()}) {
+        QTest::addRow("disabled, %s", qPrintable(action)) << u"enabled: false"_s << action;
+        QTest::addRow("hidden, %s", qPrintable(action)) << u"visible: false"_s << action;
+    }
+}
+
+void TestCheckbox::unusableRefusesActions()
+{
+    QFETCH(QString, boxProperties);
+    QFETCH(QString, action);
+
+    Scene scene(boxProperties);
+    QVERIFY2(scene.box, qPrintable(scene.errors));
+    QVERIFY(QTest::qWaitForWindowExposed(scene.window.get()));
+    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(scene.box);
+    QVERIFY(face);
+    QVERIFY(face->actionInterface());
+    face->actionInterface()->doAction(action);
+    QCOMPARE(scene.box->checkState(), CheckState::Unchecked);
+    QCOMPARE(values.size(), 0);
+}
+
+void TestCheckbox::keyboard_data()
+{
+    QTest::addColumn<CheckState>("initial");
+    QTest::addColumn<int>("repeats");
+    QTest::addColumn<bool>("leaveWhileHeld");
+    QTest::addColumn<CheckState>("expected");
+    QTest::addColumn<int>("valueChanges");
+
+    QTest::newRow("unchecked toggles on") << CheckState::Unchecked << 0 << false << CheckState::Checked << 1;
+    QTest::newRow("mixed toggles off") << CheckState::Mixed << 0 << false << CheckState::Unchecked << 1;
+    QTest::newRow("held down, toggles once") << CheckState::Unchecked << 3 << false << CheckState::Checked << 1;
+    QTest::newRow("focus moved away while held") << CheckState::Checked << 0 << true << CheckState::Checked << 0;
+}
+
+void TestCheckbox::keyboard()
+{
+    QFETCH(CheckState, initial);
+    QFETCH(int, repeats);
+    QFETCH(bool, leaveWhileHeld);
+    QFETCH(CheckState, expected);
+    QFETCH(int, valueChanges);
+
+    Scene scene;
+    QVERIFY2(scene.box, qPrintable(scene.errors));
+    QQuickWindow *window = scene.window.get();
+    window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    scene.box->setCheckState(initial);
+    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+
+    // Reached with Tab, it says so to a screen reader and shows a ring round the box.
+    const QRect area(scene.at({-10, -10}), QSize(60, 60));
+    const int accentBefore = accentPixels(window->grabWindow().copy(area));
+    QTest::keyClick(window, Qt::Key_Tab);
+    QVERIFY(scene.box->hasActiveFocus());
+    QVERIFY(scene.box->hasVisualFocus());
+    QVERIFY(QAccessible::queryAccessibleInterface(scene.box)->state().focused);
+    QVERIFY(accentPixels(window->grabWindow().copy(area)) > accentBefore + 40);
+
+    QTest::keyPress(window, Qt::Key_Space);
+    QVERIFY(scene.box->isSelected());
+    for (int i = 0; i < repeats; ++i) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
+        QCoreApplication::sendEvent(window, &again);
+    }
+    if (leaveWhileHeld)
+        scene.box->setFocus(false);
+    QTest::keyRelease(window, Qt::Key_Space);
+    QVERIFY(!scene.box->isSelected());
+    QCOMPARE(scene.box->checkState(), expected);
+    QCOMPARE(values.size(), valueChanges);
+    QCOMPARE(scene.box->hasVisualFocus(), !leaveWhileHeld);
 }
 
 QTEST_MAIN(TestCheckbox)

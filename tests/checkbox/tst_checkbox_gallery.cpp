@@ -1,5 +1,6 @@
 #include "M13Checkbox.h"
 #include "M13CheckboxController.h"
+#include "CheckboxPixels.h"
 #include "TestSupport.h"
 
 #include <QDir>
@@ -33,20 +34,6 @@ constexpr int Cell = 64;
 constexpr int BoxSize = 40;
 
 using CheckState = M13Checkbox::CheckState;
-
-// Pixels clearly of the tint (deep blue), as opposed to grey outline or white.
-int tintPixels(const QImage &image)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor c = image.pixelColor(x, y);
-            if (c.blue() - c.red() > 60)
-                ++count;
-        }
-    }
-    return count;
-}
 
 M13Checkbox *makeBox(QQuickWindow &window, QPointF cellOrigin)
 {
@@ -129,8 +116,21 @@ void TestCheckboxGallery::states()
     QVERIFY(pressed != released);
     QCOMPARE(grab(window, pressedCell), released);
 
+    // The keyboard focus ring, on an unchecked square box, where nothing else is of the tint.
+    const QRectF focusedCell(0, 4 * Cell, Cell, Cell);
+    const QPointF focusedCentre = focusedCell.center();
+    auto *focused = qobject_cast<M13Checkbox *>(window.contentItem()->childAt(focusedCentre.x(), focusedCentre.y()));
+    QVERIFY(focused);
+    focused->forceActiveFocus(Qt::TabFocusReason);
+    QVERIFY(focused->hasVisualFocus());
+    const QImage ring = grab(window, focusedCell);
+    QVERIFY(ring.save(outputPath(u"checkbox-focused.png"_s)));
+    QVERIFY(accentPixels(ring) > 40);
+    focused->setFocus(false);
+    QCOMPARE(accentPixels(grab(window, focusedCell)), 0);
+
     for (const Placed &p : std::as_const(placed)) {
-        const int tint = tintPixels(grab(window, p.cell));
+        const int tint = accentPixels(grab(window, p.cell));
         if (p.state == CheckState::Unchecked)
             QCOMPARE(tint, 0);
         else
@@ -194,7 +194,7 @@ void TestCheckboxGallery::motion()
         QVERIFY2(middle != start && middle != end, "the effect does not move");
         QCOMPARE(end, frame(moments.size())); // the last frame is the box at rest
         if (changes[row].from == CheckState::Unchecked)
-            QCOMPARE(tintPixels(start), 0);
+            QCOMPARE(accentPixels(start), 0);
     }
 }
 

@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
-#include <QSettings>
 #include <QSvgRenderer>
 #include <QtTest>
 #include <cmath>
@@ -231,15 +230,6 @@ private Q_SLOTS:
         const QImage png(u"%1/%2x%2/apps/larkwells.png"_s.arg(QStringLiteral(LARKWELLS_ICONS_DIR)).arg(size));
         QCOMPARE(png.size(), QSize(size, size));
         QCOMPARE(qAlpha(png.pixel(size / 2, size / 2)), 255);
-    }
-
-    void desktopEntryNamesTheIcon()
-    {
-        QSettings entry(TestEnvironment::sourceResources() + u"/icon/larkwells.desktop"_s, QSettings::IniFormat);
-        entry.beginGroup(u"Desktop Entry"_s);
-        QCOMPARE(entry.value(u"Name"_s).toString(), u"The Larkwells Book"_s);
-        QCOMPARE(entry.value(u"Exec"_s).toString(), u"larkwells"_s);
-        QCOMPARE(entry.value(u"Icon"_s).toString(), u"larkwells"_s);
     }
 
     void picturesFitTheBudget()

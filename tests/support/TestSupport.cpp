@@ -49,7 +49,7 @@ void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes
 
 QString TestEnvironment::sourceResources()
 {
-    return qEnvironmentVariable("LARKWELLS_SOURCE_DIR") + QStringLiteral("/resources");
+    return QStringLiteral(LARKWELLS_RESOURCES_DIR);
 }
 
 QQuickItem *findItem(QQuickItem *root, const QString &objectName)
