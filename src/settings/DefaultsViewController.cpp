@@ -149,7 +149,7 @@ void DefaultsViewController::didSelectRow(int row)
 {
     if (row < 0 || row >= m_FontPickerRows.size())
         return;
-    // Whichever field is not the reader's takes the row, as the shared picker always did.
+    // The reader field takes the row while it is being edited; otherwise the list field does.
     QString &field = m_editingField == Field::FontListTextField ? m_FontListText : m_ListFontText;
     field = m_FontPickerRows.at(row);
     Q_EMIT fontsChanged();

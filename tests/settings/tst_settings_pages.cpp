@@ -100,6 +100,9 @@ void TestSettingsPages::defaultsReachTheNextReader()
     click(window, waitForItem(window, u"segment-Red"_s));
     click(window, findItem(waitForItem(window, u"ReaderStepper"_s), u"FontLargerButton"_s));
     QCOMPARE(text(window, u"ReaderFontSizeTextField"_s), u"18.0"_s);
+    waitForItem(window, u"PoemViewerWallpaperSwitch"_s)->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(window, Qt::Key_Space);
+    QTRY_COMPARE(UserDefaults::standard().integerForKey(u"useWallpaper"_s), 1);
 
     // The reader font by keyboard: filter, down into the list, Enter.
     click(window, waitForItem(window, u"FontListTextField"_s));
@@ -137,6 +140,7 @@ void TestSettingsPages::defaultsReachTheNextReader()
     QCOMPARE(page->property("color").value<QColor>(), *textColorFor(2));
     QCOMPARE(page->property("font").value<QFont>().pixelSize(), 18);
     QCOMPARE(page->property("font").value<QFont>().family(), font);
+    QVERIFY(!findItem(waitForItem(window, u"scroller"_s), u"img"_s)->property("source").toUrl().isEmpty()); // the switch
 }
 
 void TestSettingsPages::wallpaperRowsToggleByTouchAndKeyboard()
