@@ -88,7 +88,6 @@ private Q_SLOTS:
     void wallpaperRowShownAndChanged();
     void wallpaperDrawEndsWhenNothingIsInUse_data();
     void wallpaperDrawEndsWhenNothingIsInUse();
-    void everyWallpaperCanBeUnticked();
     void settingsRows_data();
     void settingsRows();
 };
@@ -381,29 +380,13 @@ void TestSettings::wallpaperDrawEndsWhenNothingIsInUse()
     ViewerWallpaperTableViewController screen;
     screen.viewDidLoad();
     QCOMPARE(screen.noneInUse(), used.isEmpty());
-}
-
-void TestSettings::everyWallpaperCanBeUnticked()
-{
-    TestEnvironment environment;
-    setAll(Wallpapers::PMWallpaper(), u"false"_s);
-    UserDefaults::standard().set(u"AM-70"_s, u"true"_s);
-    UserDefaults::standard().set(u"ListWallpaperVisible"_s, 1);
-    ListWallpaperTableViewController controller;
-    controller.viewDidLoad();
-    QVERIFY(!controller.noneInUse());
-    QSignalSpy noneInUse(&controller, &WallpaperTableViewController::noneInUseChanged);
-
-    controller.CheckBoxChanged(34, 0);
-
-    QCOMPARE(stored(u"AM-70"_s), u"string false"_s);
-    QVERIFY(controller.noneInUse());
-    QCOMPARE(noneInUse.size(), 1);
-    ListAppearance list; // a list opened now shows no wallpaper, and does not hang
-    list.drawWallpaper();
-    list.read();
-    QCOMPARE(list.PMRandomNumberGen(), Wallpapers::NoWallpaper);
-    QVERIFY(list.wallpaper().isEmpty());
+    if (used.isEmpty()) { // a reader opened now shows none, and does not hang
+        UserDefaults::standard().set(u"useWallpaper"_s, 1);
+        ReaderAppearance reader;
+        reader.drawWallpaper(35);
+        reader.read();
+        QVERIFY(reader.wallpaper().isEmpty());
+    }
 }
 
 void TestSettings::settingsRows_data()
