@@ -15,7 +15,8 @@ QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
     QQuickItem *item = nullptr;
     const bool shown = QTest::qWaitFor([&] {
         item = findVisibleItem(window->contentItem(), name);
-        return item && item->width() > 0 && item->height() > 0;
+        // Fully faded in: the cover's menu has stopped sliding, so a click lands where aimed.
+        return item && item->width() > 0 && item->height() > 0 && item->opacity() == 1;
     }, 15000);
     return shown ? item : nullptr;
 }
