@@ -48,8 +48,6 @@ public:
     QString ReaderFontSizeText() const { return m_ReaderFontSizeText; }
     QString ListFontSizeText() const { return m_ListFontSizeText; }
     QStringList colorTitles() const;
-    // The stored colour code, which may lie outside the segments.
-    qint64 TextColor() const { return m_TextColor; }
     int colorSegmentIndex() const;
     QColor ColorLabelColor() const;
     int useWallpaper() const { return int(m_useWallpaper); }
@@ -104,7 +102,7 @@ private:
     double m_ListFontSize = 17;
     QString m_ReaderFontSizeText;
     QString m_ListFontSizeText;
-    qint64 m_TextColor = 0;
+    qint64 m_TextColor = 0; // as stored: it may lie outside the segments
     qint64 m_useWallpaper = 0;
     qint64 m_ListWallpaperVisible = 0;
     QStringList m_fontList;

@@ -19,9 +19,6 @@ public:
 
     QString title() const;
     QStringList rowTitles() const;
-    QUrl productURL() const { return m_productURL; }
-    QString instructions() const { return m_instructions; }
-    QUrl website() const { return m_website; }
 
     // Acts by the row's place in the table; rows past the last do nothing.
     Q_INVOKABLE void didSelectRowAt(int row);
