@@ -1,11 +1,11 @@
 #include "ViewController.h"
 
-#include "Alerts.h"
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "Log.h"
 #include "Device.h"
 #include "Navigator.h"
+#include "ReaderText.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "Sharing.h"
@@ -19,11 +19,10 @@ ViewController::ViewController(QObject *parent)
 
 QString ViewController::composedText(const QString &ampm, const QString &dt, const QString &poemPrayer)
 {
-    if (ampm == u"AM"_s)
-        return u"\nFrom The Larkwells\n Good Morning\n\n"_s + dt + u"\n\n"_s + poemPrayer;
-    if (ampm == u"PM"_s)
-        return u"\nFrom The Larkwells\n Good Night\n\n"_s + dt + u"\n\n"_s + poemPrayer;
-    return poemPrayer;
+    const QString greeting = ReaderText::greeting(ampm);
+    if (greeting.isEmpty())
+        return poemPrayer;
+    return u"\nFrom The Larkwells\n "_s + greeting + u"\n\n"_s + dt + u"\n\n"_s + poemPrayer;
 }
 
 void ViewController::setPoemPrayerText(const QString &text)
@@ -50,10 +49,8 @@ void ViewController::viewDidLoad()
     if (m_appearance.applyTextColor())
         setPoemPrayerText(selection.selectedPoemPrayer());
 
-    if (selection.selectedAmpm() == u"AM"_s)
-        m_title = u"Good Morning"_s;
-    else if (selection.selectedAmpm() == u"PM"_s)
-        m_title = u"Good Night"_s;
+    if (const QString greeting = ReaderText::greeting(selection.selectedAmpm()); !greeting.isEmpty())
+        m_title = greeting;
     Q_EMIT loaded();
 
     if (selection.selectedFavorite() == u"T"_s)
@@ -108,15 +105,10 @@ void ViewController::HandlePinch(double scale)
 
 void ViewController::SharePoem()
 {
-    if (!Sharing::shared().canSendText()) {
-        Alerts::shared().presentAsync({u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s,
-                                       {u"OK"_s}, {}});
-        return;
-    }
-    const QString ampm = Selection::shared().selectedAmpm();
-    if (ampm != u"AM"_s && ampm != u"PM"_s)
-        return;
-    Sharing::shared().present({m_PoemPrayerText, {}, {}});
+    ReaderText::shareAsTextMessage(
+        Selection::shared().selectedAmpm(),
+        {u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s, {u"OK"_s}, {}}, true,
+        [this](const QString &) { return m_PoemPrayerText; });
 }
 
 void ViewController::FacebookShare()

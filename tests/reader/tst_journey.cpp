@@ -5,8 +5,11 @@
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
+#include <QQuickTextDocument>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +49,7 @@ class TestJourney : public QObject
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
     void coverListReaderAndBack();
+    void searchReadAndBack();
 };
 
 void TestJourney::coverListReaderAndBack()
@@ -86,6 +90,70 @@ void TestJourney::coverListReaderAndBack()
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QTRY_VERIFY(findVisibleItem(window->contentItem(), u"row-0"_s)->property("favoriteChecked").toBool());
+}
+
+// Cover → Search → type → a row → the marked page → favourite → back to the same search.
+void TestJourney::searchReadAndBack()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    // The match stands far below the first screen of its page.
+    const QString longPage = u"A line of the morning\n"_s.repeated(80) + u"The lantern glows"_s;
+    insertPages({u"January 1|AM|1|1|1|F|Snow on the sill"_s, u"January 1|PM|1|1|2|F|Night of lanterns"_s,
+                 u"February 10|AM|2|10|41|F|"_s + longPage});
+    importLarkwellsModule();
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, u"SearchButton"_s));
+    QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
+    QQuickItem *field = waitForItem(window, u"searchField"_s);
+    QTRY_VERIFY(field->hasActiveFocus());
+    click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
+    QTRY_COMPARE(field->property("placeholderText").toString(), u"Search for Poem/Prayer"_s);
+    field->forceActiveFocus();
+    for (const char letter : "LANTERN")
+        if (letter)
+            QTest::keyClick(window, letter, Qt::ShiftModifier);
+    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"matchCount"_s)->property("text").toString(),
+                 u"2 pages match"_s);
+
+    click(window, waitForItem(window, u"row-1"_s));
+    QTRY_COMPARE(topPage(window), u"SearchView"_s);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    const QTextDocument *document = text->property("textDocument").value<QQuickTextDocument *>()->textDocument();
+    QStringList marked;
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (it.fragment().charFormat().background().color() == QColor(Qt::yellow))
+                marked.append(it.fragment().text());
+        }
+    }
+    QCOMPARE(marked, QStringList{u"lantern"_s});
+    QVERIFY(document->toPlainText().endsWith(u"February 10\n\n"_s + longPage));
+    QTRY_VERIFY(findVisibleItem(window->contentItem(), u"scroller"_s)->property("contentY").toDouble() > 500);
+
+    click(window, waitForItem(window, u"FavoriteCheckBox"_s));
+    QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->favorite(),
+                 u"T"_s);
+
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
+    QCOMPARE(field->property("text").toString(), u"LANTERN"_s);
+    QTRY_VERIFY(findVisibleItem(window->contentItem(), u"row-1"_s)->property("favoriteChecked").toBool());
+    QVERIFY(!findVisibleItem(window->contentItem(), u"row-0"_s)->property("favoriteChecked").toBool());
+
+    // Escape empties the field first, then leaves the screen.
+    field->forceActiveFocus();
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(field->property("text").toString(), QString());
+    QCOMPARE(topPage(window), u"SearchTableView"_s);
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(topPage(window), u"CoverView"_s);
 }
 
 QTEST_MAIN(TestJourney)
