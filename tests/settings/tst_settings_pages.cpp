@@ -16,37 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// The item once it is shown and has stopped moving (menus slide open).
-QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
-{
-    QQuickItem *item = nullptr;
-    QRectF last;
-    int still = 0;
-    [[maybe_unused]] const bool found = QTest::qWaitFor([&] {
-        item = findVisibleItem(window->contentItem(), name);
-        const QRectF rect = item ? item->mapRectToScene(item->boundingRect()) : QRectF();
-        still = rect == last && !rect.isEmpty() && item->opacity() == 1 ? still + 1 : 0;
-        last = rect;
-        return still >= 5;
-    }, 10000);
-    return item;
-}
-
-void click(QQuickWindow *window, QQuickItem *item)
-{
-    QVERIFY(item);
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-}
-
-QString topPage(QQuickWindow *window)
-{
-    auto *stack = findItem(window->contentItem(), u"stack"_s);
-    if (!stack || stack->property("busy").toBool())
-        return QString();
-    return stack->property("currentItem").value<QQuickItem *>()->objectName();
-}
-
 QString text(QQuickWindow *window, const QString &name)
 {
     QQuickItem *item = waitForItem(window, name);

@@ -89,7 +89,7 @@ QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName)
         if (!item)
             return false;
         const QRectF now = item->mapRectToScene(item->boundingRect());
-        const bool still = now == last && !now.isEmpty();
+        const bool still = now == last && !now.isEmpty() && item->opacity() == 1;
         last = now;
         if (!still)
             QTest::qWait(40);
