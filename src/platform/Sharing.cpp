@@ -1,6 +1,7 @@
 #include "Sharing.h"
 
 #include "Alerts.h"
+#include "Mail.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -189,8 +190,7 @@ bool Sharing::canSendMail() const
 {
     if (m_canSendMailOverride)
         return *m_canSendMailOverride;
-    static const bool mailWorks = !QStandardPaths::findExecutable(u"xdg-email"_s).isEmpty() && desktopHandles(u"mailto"_s);
-    return mailWorks;
+    return ::Mail::shared().canSendMail();
 }
 
 void Sharing::composeMail(const Mail &mail)
