@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Dialogs
 import QtQuick.Layouts
 import Larkwells
 
@@ -16,6 +15,15 @@ Drawer {
     visible: Sharing.showing
     onOpened: Sharing.sheetPresented()
     onClosed: if (Sharing.showing) Sharing.cancel()
+    // The file dialog, loaded when first wanted; a test may point this elsewhere.
+    property url saveDialogSource: Qt.resolvedUrl("SaveTextDialog.qml")
+
+    function openSaveDialog() {
+        if (saveDialog.status === Loader.Ready)
+            saveDialog.item.open()
+        else
+            saveDialog.active = true
+    }
 
     contentItem: ColumnLayout {
         spacing: 0
@@ -51,17 +59,18 @@ Drawer {
                 required property var modelData
                 objectName: "share-" + modelData.name
                 Layout.fillWidth: true
-                // Asking the desktop for a text-message handler waits until the sheet is wanted.
-                visible: modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText)
+                // Asking the desktop for a handler waits until the sheet is wanted.
+                visible: (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText))
+                         && (modelData.name !== "mail" || (Sharing.showing && Sharing.canSendMail))
                 text: modelData.title
                 font.pixelSize: 17
                 font.bold: modelData.name === "cancel"
                 Accessible.name: text
-                Accessible.onPressAction: clicked()
+                Accessible.onPressAction: if (visible && enabled) clicked()
                 onClicked: {
                     switch (modelData.name) {
                     case "copy": Sharing.copyToClipboard(); break
-                    case "file": saveDialog.open(); break
+                    case "file": sheet.openSaveDialog(); break
                     case "mail": Sharing.email(); break
                     case "sms": Sharing.textMessage(); break
                     default: Sharing.cancel()
@@ -71,12 +80,17 @@ Drawer {
         }
     }
 
-    FileDialog {
+    Loader {
         id: saveDialog
-        title: qsTr("Save as Text File")
-        fileMode: FileDialog.SaveFile
-        defaultSuffix: "txt"
-        nameFilters: [qsTr("Text files (*.txt)")]
-        onAccepted: Sharing.saveToFile(selectedFile)
+        Layout.preferredHeight: 0
+        active: false
+        source: sheet.saveDialogSource
+        onLoaded: item.open()
+        onStatusChanged: {
+            if (status !== Loader.Error)
+                return
+            active = false
+            Sharing.saveDialogUnavailable("Qt.labs.folderlistmodel")
+        }
     }
 }

@@ -1,10 +1,13 @@
 #include "Sharing.h"
 
+#include "Alerts.h"
+
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
@@ -21,17 +24,36 @@ Sharing *Sharing::create(QQmlEngine *, QJSEngine *)
     return &shared();
 }
 
+namespace {
+bool schemeHandlerExists(const QString &scheme)
+{
+    QProcess query;
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"x-scheme-handler/"_s + scheme});
+    return query.waitForFinished(3000) && query.exitCode() == 0
+        && !query.readAllStandardOutput().trimmed().isEmpty();
+}
+
+void reportFailure(const QString &title, const QString &message)
+{
+    Alerts::shared().present({title, message, {u"OK"_s}, {}});
+}
+}
+
 bool Sharing::canSendText() const
 {
     if (m_canSendOverride)
         return *m_canSendOverride;
-    static const bool handlerExists = [] {
-        QProcess query;
-        query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"x-scheme-handler/sms"_s});
-        return query.waitForFinished(3000) && query.exitCode() == 0
-            && !query.readAllStandardOutput().trimmed().isEmpty();
-    }();
+    static const bool handlerExists = schemeHandlerExists(u"sms"_s);
     return handlerExists;
+}
+
+bool Sharing::canSendMail() const
+{
+    if (m_canMailOverride)
+        return *m_canMailOverride;
+    static const bool mailWorks = !QStandardPaths::findExecutable(u"xdg-email"_s).isEmpty()
+                                  && schemeHandlerExists(u"mailto"_s);
+    return mailWorks;
 }
 
 void Sharing::present(Request request)
@@ -68,7 +90,7 @@ void Sharing::saveToFile(const QUrl &file)
 {
     QSaveFile output(file.toLocalFile());
     if (!output.open(QIODevice::WriteOnly) || output.write(text().toUtf8()) < 0 || !output.commit()) {
-        Q_EMIT failed(u"The text could not be saved: "_s + output.errorString());
+        reportFailure(u"Save as Text File"_s, u"The text could not be saved: "_s + output.errorString());
         return;
     }
     dismiss(true);
@@ -81,7 +103,11 @@ void Sharing::email()
     query.addQueryItem(u"subject"_s, u"The Larkwells Book"_s);
     query.addQueryItem(u"body"_s, QString::fromUtf8(QUrl::toPercentEncoding(text())));
     mail.setQuery(query);
-    dismiss(QDesktopServices::openUrl(mail));
+    if (!QDesktopServices::openUrl(mail)) {
+        reportFailure(u"Sending Email"_s, u"Email not Setup or Unavailable"_s);
+        return;
+    }
+    dismiss(true);
 }
 
 void Sharing::textMessage()
@@ -98,6 +124,12 @@ void Sharing::textMessage()
 void Sharing::cancel()
 {
     dismiss(false);
+}
+
+void Sharing::saveDialogUnavailable(const QString &reason)
+{
+    reportFailure(u"Save as Text File"_s,
+                  u"Files cannot be saved here: the file dialog is not installed (%1)."_s.arg(reason));
 }
 
 void MessageComposer::messageComposeViewControllerDidFinish(Sharing &sharing, Result result)

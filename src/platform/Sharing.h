@@ -8,7 +8,9 @@
 
 // The share sheet: hands a text to whatever the desktop offers — the clipboard, a text file, an
 // e-mail through the desktop's mail client, and a text message where a handler for sms: links
-// exists. The window shows the sheet while `showing`; the user's choice comes back here.
+// exists. The window shows the sheet while `showing`; the user's choice comes back here. An
+// activity that cannot be done (a file not written, no mail client starting) is reported as an
+// alert and closes nothing, so the user can choose again.
 class Sharing : public QObject
 {
     Q_OBJECT
@@ -17,6 +19,7 @@ class Sharing : public QObject
     Q_PROPERTY(bool showing READ showing NOTIFY showingChanged)
     Q_PROPERTY(QString text READ text NOTIFY showingChanged)
     Q_PROPERTY(bool canSendText READ canSendText CONSTANT)
+    Q_PROPERTY(bool canSendMail READ canSendMail CONSTANT)
 
 public:
     static Sharing &shared();
@@ -26,6 +29,9 @@ public:
     bool canSendText() const;
     // Tests decide what the device can do; none asks the desktop again.
     void setCanSendTextForTesting(std::optional<bool> canSend) { m_canSendOverride = canSend; }
+    // True where xdg-email exists and the desktop has a handler for mailto: links.
+    bool canSendMail() const;
+    void setCanSendMailForTesting(std::optional<bool> canSend) { m_canMailOverride = canSend; }
 
     struct Request {
         QString text;
@@ -44,18 +50,19 @@ public:
     Q_INVOKABLE void email();
     Q_INVOKABLE void textMessage();
     Q_INVOKABLE void cancel();
+    // The file dialog could not be loaded (its QML module is missing).
+    Q_INVOKABLE void saveDialogUnavailable(const QString &reason);
     // Closes the sheet, reporting whether an activity was completed.
     void dismiss(bool completed);
 
 Q_SIGNALS:
     void showingChanged();
-    // An activity could not be done (for example a file that could not be written).
-    void failed(const QString &message);
 
 private:
     explicit Sharing(QObject *parent = nullptr) : QObject(parent) {}
     std::optional<Request> m_request;
     std::optional<bool> m_canSendOverride;
+    std::optional<bool> m_canMailOverride;
 };
 
 // The delegate of the text-message composer: it only closes the composer when the user is done.

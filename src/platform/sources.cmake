@@ -14,5 +14,6 @@ list(APPEND LARKWELLS_SOURCES
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
+    platform/SaveTextDialog.qml
     platform/ShareSheet.qml
 )
