@@ -104,7 +104,7 @@ Page {
         Column {
             id: menuButtons
             objectName: "MenuButtons"
-            width: parent.width
+            width: parent.width - (menu.interactive ? 12 : 0) // room for the scroll bar
             spacing: controller.menuOpen ? 10 : 0
             Behavior on spacing { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 

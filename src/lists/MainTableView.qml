@@ -25,6 +25,7 @@ Page {
             model: controller.segmentTitles
             currentIndex: controller.segmentIndex
             segmentWidth: Math.min(68, (root.width - 120) / 5)
+            fontSize: segmentWidth < 56 ? 13 : 15 // "Today" whole on a small phone
             onActivated: index => controller.segmentedControlAction(index)
         }
     }

@@ -58,6 +58,8 @@ FocusScope {
                 height: control.height
                 focusPolicy: Qt.NoFocus
                 checkable: false
+                leftPadding: 2
+                rightPadding: 2
                 text: modelData
                 contentItem: Label {
                     text: segment.text

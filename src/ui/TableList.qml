@@ -9,15 +9,20 @@ ListView {
     id: table
     property string emptyText
     property int chosenRow: -1
+    property real rememberedY: 0
     // The row the user opened; the screen calls this before it opens the row.
     function remember(row: int) {
         chosenRow = row
+        rememberedY = contentY
         currentIndex = row
     }
-    // Back on the screen: the opened row stays where the reader left it, and in view.
+    // Back on the screen (after a reload): the list where the reader left it, and the opened
+    // row in view.
     function restore() {
-        if (chosenRow >= 0 && chosenRow < count)
-            positionViewAtIndex(chosenRow, ListView.Contain)
+        if (chosenRow < 0 || chosenRow >= count)
+            return
+        contentY = Math.max(originY, Math.min(rememberedY, originY + contentHeight - height))
+        positionViewAtIndex(chosenRow, ListView.Contain)
     }
 
     anchors.margins: 6
@@ -33,6 +38,8 @@ ListView {
     Accessible.role: Accessible.List
 
     onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+    // The arrow keys move the current row; the list follows it (there is no highlight to follow).
+    onCurrentIndexChanged: if (activeFocus && currentIndex >= 0) positionViewAtIndex(currentIndex, ListView.Contain)
     Keys.onReturnPressed: openCurrent()
     Keys.onEnterPressed: openCurrent()
     Keys.onSpacePressed: openCurrent()

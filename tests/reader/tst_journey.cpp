@@ -7,6 +7,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +37,22 @@ QString topPage(QQuickWindow *window)
         return QString();
     return stack->property("currentItem").value<QQuickItem *>()->objectName();
 }
+
+// Presses Tab until `reached` holds for the focused item; false after a lap of the window.
+bool tabUntil(QQuickWindow *window, const std::function<bool(QQuickItem *)> &reached)
+{
+    for (int i = 0; i < 40; ++i) {
+        if (window->activeFocusItem() && reached(window->activeFocusItem()))
+            return true;
+        QTest::keyClick(window, Qt::Key_Tab);
+    }
+    return false;
+}
+
+bool isA(QQuickItem *item, const char *qmlType)
+{
+    return QString::fromLatin1(item->metaObject()->className()).startsWith(QLatin1StringView(qmlType));
+}
 }
 
 // Cover → Good Morning → a row → reader → favourite → back, in the real pages.
@@ -46,6 +63,7 @@ class TestJourney : public QObject
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
     void coverListReaderAndBack();
+    void keyboardAlone();
 };
 
 void TestJourney::coverListReaderAndBack()
@@ -86,6 +104,80 @@ void TestJourney::coverListReaderAndBack()
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QTRY_VERIFY(findVisibleItem(window->contentItem(), u"row-0"_s)->property("favoriteChecked").toBool());
+}
+
+// The list and the reader without a mouse: the list keeps its place across a reading, the text
+// lets Tab go, Ctrl+plus/minus act as the stepper, Space marks a favourite, the arrows switch
+// segments, Escape and Alt+Left go back.
+void TestJourney::keyboardAlone()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    QStringList pages;
+    for (int i = 0; i < 60; ++i)
+        pages << u"Day %1|AM|%2|%3|%4|F|Morning %4"_s.arg(i).arg(1 + i / 28).arg(1 + i % 28).arg(2 * i + 1);
+    insertPages(pages);
+    importLarkwellsModule();
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, u"GoodMorningButton"_s));
+    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+
+    auto *table = findVisibleItem(window->contentItem(), u"table"_s);
+    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return table->isAncestorOf(item); }));
+    for (int i = 0; i < 40; ++i)
+        QTest::keyClick(window, Qt::Key_Down);
+    QTRY_COMPARE(table->property("currentIndex").toInt(), 40);
+    QTRY_VERIFY(table->property("contentY").toDouble() > 100);
+    const double scrolled = table->property("contentY").toDouble();
+
+    QTest::keyClick(window, Qt::Key_Return);
+    QTRY_COMPARE(topPage(window), u"View"_s);
+    QCOMPARE(waitForItem(window, u"PoemPrayerTextView"_s)->property("text").toString().contains(u"Morning 81"_s), true);
+
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
+    QTest::keyClick(window, Qt::Key_Tab);
+    QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
+    auto *stepper = findVisibleItem(window->contentItem(), u"FontSizeStepper"_s);
+    const double size = stepper->property("value").toDouble();
+    QTest::keyClick(window, Qt::Key_Plus, Qt::ControlModifier);
+    QTRY_COMPARE(stepper->property("value").toDouble(), size + 1);
+    QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), size + 1);
+    QTest::keyClick(window, Qt::Key_Minus, Qt::ControlModifier);
+    QTRY_COMPARE(stepper->property("value").toDouble(), size);
+
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+    QTRY_COMPARE(table->property("contentY").toDouble(), scrolled); // where the reader left it
+    auto *chosen = findVisibleItem(window->contentItem(), u"row-40"_s);
+    QVERIFY(chosen);
+    const QRectF shown = chosen->mapRectToItem(table, chosen->boundingRect());
+    QVERIFY(shown.top() >= 0 && shown.bottom() <= table->height());
+
+    QVERIFY(tabUntil(window, [](QQuickItem *item) { return isA(item, "FavoriteBox"); }));
+    QQuickItem *box = window->activeFocusItem();
+    QVERIFY(chosen->isAncestorOf(box)); // the chosen row's own box, not the first row's
+    QTest::keyClick(window, Qt::Key_Space);
+    QTRY_COMPARE(box->property("checkState").toInt(), 1);
+    FetchRequest favorites = PoemPrayer::fetchRequest();
+    favorites.predicate = Predicate::equals(u"favorite"_s, u"T"_s);
+    QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(favorites).size(), 1);
+
+    auto *segments = findVisibleItem(window->contentItem(), u"segment"_s);
+    const int segment = segments->property("currentIndex").toInt();
+    const int rows = table->property("count").toInt();
+    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == segments; }));
+    QTest::keyClick(window, Qt::Key_Right); // AM to PM: no night pages here
+    QTRY_COMPARE(segments->property("currentIndex").toInt(), segment + 1);
+    QTRY_VERIFY(table->property("count").toInt() != rows);
+
+    QTest::keyClick(window, Qt::Key_Left, Qt::AltModifier);
+    QTRY_COMPARE(topPage(window), u"CoverView"_s);
 }
 
 QTEST_MAIN(TestJourney)
