@@ -7,7 +7,7 @@ import Larkwells
 
 // Where the share sheet's text is saved as a plain text file.
 Item {
-    function open() { dialog.open() }
+    Component.onCompleted: dialog.open()
     FileDialog {
         id: dialog
         objectName: "saveTextDialog"

@@ -18,11 +18,10 @@ Drawer {
     // The file dialog, loaded when first wanted; a test may point this elsewhere.
     property url saveDialogSource: Qt.resolvedUrl("SaveTextDialog.qml")
 
+    // A fresh dialog each time; it opens as soon as it is made.
     function openSaveDialog() {
-        if (saveDialog.status === Loader.Ready)
-            saveDialog.item.open()
-        else
-            saveDialog.active = true
+        saveDialog.active = false
+        saveDialog.active = true
     }
 
     contentItem: ColumnLayout {
@@ -85,7 +84,6 @@ Drawer {
         Layout.preferredHeight: 0
         active: false
         source: sheet.saveDialogSource
-        onLoaded: item.open()
         onStatusChanged: {
             if (status !== Loader.Error)
                 return

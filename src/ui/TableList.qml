@@ -9,19 +9,26 @@ ListView {
     id: table
     property string emptyText
     property int chosenRow: -1
-    property real rememberedY: 0
+    property real rowOffset: 0
     // The row the user opened; the screen calls this before it opens the row.
     function remember(row: int) {
         chosenRow = row
-        rememberedY = contentY
+        rowOffset = offsetInView(itemAtIndex(row))
         currentIndex = row
     }
-    // Back on the screen (after a reload): the list where the reader left it, and the opened
-    // row in view.
+    // Left to the interpreter: the compiled form of this lookup misreads a delegate's y.
+    function offsetInView(item) {
+        return item ? item.y - contentY : 0
+    }
+    // Back on the screen (after a reload): the opened row where it was on the screen, so the
+    // list looks as the reader left it.
     function restore() {
         if (chosenRow < 0 || chosenRow >= count)
             return
-        contentY = Math.max(originY, Math.min(rememberedY, originY + contentHeight - height))
+        forceLayout()
+        currentIndex = chosenRow
+        positionViewAtIndex(chosenRow, ListView.Beginning)
+        contentY = Math.max(originY, Math.min(contentY - rowOffset, originY + contentHeight - height))
         positionViewAtIndex(chosenRow, ListView.Contain)
     }
 

@@ -3,7 +3,8 @@
 
 Presses every cover menu button through its action interface with the menu closed and open:
 hidden buttons must be absent or refuse, shown ones open their screen, and the application
-must stay alive. Then presses a segment of the page list and checks that the list changed.
+must stay alive. Then marks a favourite on a list row and presses a segment of the page list,
+checking that the box reports its state and that the list changed.
 
 Run inside dbus-run-session and xvfb-run: atspi_cover.py LARKWELLS_BINARY
 Exits 77 (skipped) only when the accessibility bus cannot be reached at all.
@@ -158,11 +159,23 @@ def row_names(app):
     return names
 
 
+def mark_a_favorite(app, application):
+    """The row's favourite box is a named check box whose press marks the page."""
+    import pyatspi
+    box = wait_for(lambda: named(app, "Favorite", "check box"), "a row's favourite box")[0]
+    if box.getState().contains(pyatspi.STATE_CHECKED):
+        fail("a new page is already a favourite")
+    press(box)
+    application.check_alive("pressing a favourite box")
+    wait_for(lambda: box.getState().contains(pyatspi.STATE_CHECKED), "the favourite box checked")
+
+
 def press_a_segment(app, application):
     open_menu(app, application)
     press(named(app, "Good Morning", "push button")[0])
     wait_for(lambda: on_list_screen(app), "the page list")
     time.sleep(1)
+    mark_a_favorite(app, application)
     before = row_names(app)
     tab = wait_for(lambda: named(app, "Today", "page tab"), "the Today segment")[0]
     press(tab)

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
     void coverListReaderAndBack();
     void keyboardAlone();
+    void largeListFontFitsTheRows();
 };
 
 void TestJourney::coverListReaderAndBack()
@@ -133,7 +134,11 @@ void TestJourney::keyboardAlone()
         QTest::keyClick(window, Qt::Key_Down);
     QTRY_COMPARE(table->property("currentIndex").toInt(), 40);
     QTRY_VERIFY(table->property("contentY").toDouble() > 100);
-    const double scrolled = table->property("contentY").toDouble();
+    const auto topInList = [&](const QString &row) {
+        QQuickItem *item = findVisibleItem(window->contentItem(), row);
+        return item ? item->mapToItem(table, QPointF(0, 0)).y() : -1e9;
+    };
+    const double chosenTop = topInList(u"row-40"_s);
 
     QTest::keyClick(window, Qt::Key_Return);
     QTRY_COMPARE(topPage(window), u"View"_s);
@@ -153,7 +158,7 @@ void TestJourney::keyboardAlone()
 
     QTest::keyClick(window, Qt::Key_Escape);
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_COMPARE(table->property("contentY").toDouble(), scrolled); // where the reader left it
+    QTRY_COMPARE(topInList(u"row-40"_s), chosenTop); // where the reader left it
     auto *chosen = findVisibleItem(window->contentItem(), u"row-40"_s);
     QVERIFY(chosen);
     const QRectF shown = chosen->mapRectToItem(table, chosen->boundingRect());
@@ -178,6 +183,33 @@ void TestJourney::keyboardAlone()
 
     QTest::keyClick(window, Qt::Key_Left, Qt::AltModifier);
     QTRY_COMPARE(topPage(window), u"CoverView"_s);
+}
+
+// The largest list font on a small phone: the rows grow, no words are cut.
+void TestJourney::largeListFontFitsTheRows()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
+    insertPages({u"September 30|AM|9|30|547|F|Morning"_s});
+    importLarkwellsModule();
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    window->resize(360, 640);
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, u"GoodMorningButton"_s));
+    QQuickItem *row = waitForItem(window, u"row-0"_s);
+    QVERIFY(row);
+    for (const QString &name : {u"DateLabel"_s, u"PageWords"_s}) {
+        QQuickItem *label = findVisibleItem(row, name);
+        QVERIFY2(label && !label->property("truncated").toBool(), qPrintable(name));
+        QVERIFY2(label->property("contentWidth").toDouble() <= label->width() + 0.5, qPrintable(name));
+        const QRectF inRow = label->mapRectToItem(row, label->boundingRect());
+        QVERIFY2(inRow.top() >= 0 && inRow.bottom() <= row->height() && inRow.right() <= row->width(), qPrintable(name));
+    }
 }
 
 QTEST_MAIN(TestJourney)
