@@ -2,6 +2,7 @@
 #include "Sharing.h"
 #include "TestSupport.h"
 
+#include <QDesktopServices>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -10,6 +11,16 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+// Takes mailto: links in place of a desktop mail client.
+class MailClient : public QObject
+{
+    Q_OBJECT
+public:
+    QList<QUrl> opened;
+public Q_SLOTS:
+    void open(const QUrl &url) { opened << url; }
+};
 
 // The share sheet in a window of its own, as the application shows it.
 class TestSharing : public QObject
@@ -25,6 +36,7 @@ private Q_SLOTS:
     void saveOpensTheFileDialog();
     void missingDialogModuleIsAnAlert();
     void unwritableFileIsAnAlert();
+    void mailThatCannotStartIsAnAlert();
 
 private:
     std::unique_ptr<QQuickWindow> showSheet(QQmlEngine &engine);
@@ -138,6 +150,28 @@ void TestSharing::unwritableFileIsAnAlert()
     QVERIFY(Sharing::shared().showing());
     Sharing::shared().cancel();
     QVERIFY(!completed);
+}
+
+void TestSharing::mailThatCannotStartIsAnAlert()
+{
+    TestEnvironment environment;
+    std::optional<bool> completed;
+    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}});
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"mailto"_s)); // no mail client here
+    Sharing::shared().email();
+    QVERIFY(Alerts::shared().showing());
+    QCOMPARE(Alerts::shared().title(), u"Sending Email"_s);
+    QCOMPARE(Alerts::shared().message(), u"Email not Setup or Unavailable"_s);
+    QVERIFY(!completed); // nothing done yet: the sheet stays for another choice
+    QVERIFY(Sharing::shared().showing());
+
+    MailClient client;
+    QDesktopServices::setUrlHandler(u"mailto"_s, &client, "open");
+    Sharing::shared().email();
+    QDesktopServices::unsetUrlHandler(u"mailto"_s);
+    QCOMPARE(client.opened.size(), 1);
+    QCOMPARE(client.opened.first().query().contains(u"body=text"_s), true);
+    QCOMPARE(completed, std::optional(true));
 }
 
 QTEST_MAIN(TestSharing)
