@@ -29,6 +29,7 @@ private Q_SLOTS:
     void coverPageOpensAndClosesItsMenu();
     void screenReaderPressesOnlyWhatIsShown();
     void segueWithoutScreenStopsNamingIt();
+    void smallPhoneMenuScrollsToItsLastButton();
 };
 
 namespace {
@@ -192,6 +193,32 @@ void TestCover::screenReaderPressesOnlyWhatIsShown()
         }
     }
     QVERIFY(opened >= 4); // the four list buttons at least
+}
+
+// On a 360x640 phone the open menu is taller than the screen: it scrolls far enough to show its
+// last button.
+void TestCover::smallPhoneMenuScrollsToItsLastButton()
+{
+    TestEnvironment environment;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openCover(engine);
+    QVERIFY(window);
+    window->resize(360, 640);
+    QVERIFY(pressAsScreenReader(findItem(window->contentItem(), u"ControlButton"_s)));
+    auto *menu = findItem(window->contentItem(), u"MenuScroller"_s);
+    auto *last = findItem(window->contentItem(), u"ResetButton"_s);
+    QVERIFY(menu && last);
+    QTRY_VERIFY(last->height() > 40);
+    QTRY_COMPARE(window->contentItem()->height(), 640.0);
+    const auto inView = [&] {
+        const QRectF shown = last->mapRectToItem(menu, last->boundingRect());
+        return shown.top() >= 0 && shown.bottom() <= menu->height();
+    };
+    QTRY_VERIFY(menu->property("interactive").toBool());
+    QTRY_VERIFY(!inView());
+    // Flicked to the end, as far as the menu lets a finger take it.
+    menu->setProperty("contentY", menu->property("contentHeight").toDouble() - menu->height());
+    QTRY_VERIFY(inView());
 }
 
 void TestCover::segueWithoutScreenStopsNamingIt()
