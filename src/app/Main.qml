@@ -43,6 +43,8 @@ ApplicationWindow {
                     return
                 }
             }
+            // Reached another way (the about file screen from the export menu): back one screen.
+            stack.pop()
         }
         function onPopToRootRequested() {
             stack.pop(null)

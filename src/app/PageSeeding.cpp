@@ -5,11 +5,13 @@
 #include "FatalError.h"
 #include "Log.h"
 #include "PageFile.h"
+#include "StoreSnapshots.h"
 
 using namespace Qt::StringLiterals;
 
 void PageSeeding::clearPoemPrayers()
 {
+    StoreSnapshots::take(u"first-launch"_s);
     const auto container = loadedContainer();
     // The main store opens now rather than at the first page: were this container the last
     // connection when it closes, SQLite would checkpoint and delete the write-ahead log (with

@@ -3,6 +3,7 @@ list(APPEND LARKWELLS_SOURCES
     app/AppDelegate.h app/AppDelegate.cpp
     app/CoverViewController.h app/CoverViewController.cpp
     app/PageFile.h app/PageFile.cpp
+    app/PageFileWriter.h app/PageFileWriter.cpp
     app/PageSeeding.h app/PageSeeding.cpp
     app/ReviewPrompt.h app/ReviewPrompt.cpp
     app/Selection.h app/Selection.cpp
@@ -12,6 +13,7 @@ list(APPEND LARKWELLS_SOURCES
     app/store/ManagedObject.h app/store/ManagedObject.cpp
     app/store/ManagedObjectContext.h app/store/ManagedObjectContext.cpp
     app/store/PersistentContainer.h app/store/PersistentContainer.cpp
+    app/store/StoreSnapshots.h app/store/StoreSnapshots.cpp
 )
 list(APPEND LARKWELLS_QML
     app/Main.qml

@@ -18,6 +18,60 @@ void PoemPrayerListModel::setPages(const QList<PoemPrayer *> &pages)
     endResetModel();
 }
 
+void PoemPrayerListModel::updatePages(const QList<PoemPrayer *> &pages)
+{
+    // Rows [0, row) already equal pages [0, next). A row that differs is looked for a little
+    // further on in both lists at once, so a narrowed or widened list costs one pass.
+    const QList<PoemPrayer *> &rows = std::as_const(m_pages);
+    qsizetype row = 0;
+    qsizetype next = 0;
+    while (next < pages.size() && row < m_pages.size()) {
+        if (rows[row] == pages[next]) {
+            ++row;
+            ++next;
+            continue;
+        }
+        qsizetype distance = 1;
+        for (;; ++distance) {
+            const bool oldEnds = row + distance >= m_pages.size();
+            const bool newEnds = next + distance >= pages.size();
+            if (oldEnds && newEnds) {
+                setPages(pages); // the two lists share no order: replace the rows
+                return;
+            }
+            if (!oldEnds && rows[row + distance] == pages[next]) {
+                removeRun(int(row), int(distance));
+                break;
+            }
+            if (!newEnds && pages[next + distance] == rows[row]) {
+                insertRun(int(row), pages.mid(next, distance));
+                row += distance;
+                next += distance;
+                break;
+            }
+        }
+    }
+    if (row < m_pages.size())
+        removeRun(int(row), int(m_pages.size() - row));
+    if (next < pages.size())
+        insertRun(int(row), pages.mid(next));
+}
+
+void PoemPrayerListModel::removeRun(int row, int count)
+{
+    beginRemoveRows({}, row, row + count - 1);
+    m_pages.remove(row, count);
+    endRemoveRows();
+}
+
+void PoemPrayerListModel::insertRun(int row, const QList<PoemPrayer *> &pages)
+{
+    beginInsertRows({}, row, row + int(pages.size()) - 1);
+    m_pages.insert(row, pages.size(), nullptr);
+    std::copy(pages.cbegin(), pages.cend(), m_pages.begin() + row);
+    endInsertRows();
+}
+
 void PoemPrayerListModel::refreshRow(int row)
 {
     if (row >= 0 && row < m_pages.size())

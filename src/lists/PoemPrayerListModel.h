@@ -19,6 +19,10 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     void setPages(const QList<PoemPrayer *> &pages);
+    // Moves to `pages` by removing and inserting runs of rows, so the rows that stay keep their
+    // cells and the list its place. Meant for a list narrowed or widened in the same order;
+    // lists without a common order are replaced whole.
+    void updatePages(const QList<PoemPrayer *> &pages);
     const QList<PoemPrayer *> &pages() const { return m_pages; }
     // The row's page changed (its favourite mark, say).
     void refreshRow(int row);
@@ -33,5 +37,9 @@ public:
     static QString dateLabel(const PoemPrayer &page);
 
 private:
+    void removeRun(int row, int count);
+    // Inserts `pages` before `row`.
+    void insertRun(int row, const QList<PoemPrayer *> &pages);
+
     QList<PoemPrayer *> m_pages;
 };

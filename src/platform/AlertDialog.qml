@@ -9,7 +9,9 @@ Dialog {
     id: dialog
     objectName: "alertDialog"
     modal: true
-    closePolicy: Popup.NoAutoClose
+    // An alert without buttons closes with Escape or a tap outside, so it can never trap the reader.
+    closePolicy: Alerts.buttons.length > 0 ? Popup.NoAutoClose : Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    onClosed: if (Alerts.showing && Alerts.buttons.length === 0) Alerts.dismiss(-1)
     // Deferred, so an alert raised while the window is still being built opens once it is shown.
     function follow() {
         if (Alerts.showing)

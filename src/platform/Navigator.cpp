@@ -9,6 +9,19 @@ Navigator::Navigator(QObject *parent)
     , m_pages{
           {u"PoemPrayerSegue"_s, u"lists/MainTableView.qml"_s},
           {u"ViewPoemSegue"_s, u"reader/View.qml"_s},
+          {u"AboutSegue"_s, u"about/AboutTableView.qml"_s},
+          {u"AboutEditSegue"_s, u"about/AboutEditView.qml"_s},
+          {u"AboutNewSegue"_s, u"about/AboutNewView.qml"_s},
+          {u"NotesSegue"_s, u"notes/NotesTableView.qml"_s},
+          {u"EditNotesSegue"_s, u"notes/EditNotesView.qml"_s},
+          {u"SpecialDaysSegue"_s, u"lists/SpecialDaysTableView.qml"_s},
+          {u"SpecialDayReaderSegue"_s, u"reader/EditSpecialDaysView.qml"_s},
+          {u"SearchSegue"_s, u"lists/SearchTableView.qml"_s},
+          {u"SearchPoemSegue"_s, u"reader/SearchView.qml"_s},
+          {u"ExportMenuSegue"_s, u"about/ExportLarkwellFilesView.qml"_s},
+          {u"ExportSegue"_s, u"about/ExportView.qml"_s},
+          {u"ExportSpecialDaysSegue"_s, u"about/SpecialDaysExportView.qml"_s},
+          {u"AboutImportSegue"_s, u"about/AboutImportView.qml"_s},
       }
 {
 }

@@ -4,7 +4,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Larkwells
 
-// The bottom sheet of the Sharing service: copy, save as a text file, e-mail, text message.
+// The bottom sheet of the Sharing service: copy, save as a text file, e-mail, text message; for
+// a file, save a copy or open it with the desktop's handler.
 Drawer {
     id: sheet
     objectName: "shareSheet"
@@ -15,13 +16,15 @@ Drawer {
     visible: Sharing.showing
     onOpened: Sharing.sheetPresented()
     onClosed: if (Sharing.showing) Sharing.cancel()
-    // The file dialog, loaded when first wanted; a test may point this elsewhere.
+    background: Rectangle { color: Theme.cellColor }
+    // The file dialogs, loaded when wanted; a test may point these elsewhere.
     property url saveDialogSource: Qt.resolvedUrl("SaveTextDialog.qml")
+    property url copyDialogSource: Qt.resolvedUrl("SaveCopyDialog.qml")
 
     // A fresh dialog each time; it opens as soon as it is made.
-    function openSaveDialog() {
-        saveDialog.active = false
-        saveDialog.active = true
+    function openDialog(loader: Loader) {
+        loader.active = false
+        loader.active = true
     }
 
     contentItem: ColumnLayout {
@@ -40,7 +43,7 @@ Drawer {
             Layout.leftMargin: 16
             Layout.rightMargin: 16
             Layout.bottomMargin: 8
-            text: Sharing.text.trim()
+            text: Sharing.sharesFile ? Sharing.fileName : Sharing.text.trim()
             elide: Text.ElideRight
             maximumLineCount: 2
             wrapMode: Text.WordWrap
@@ -52,15 +55,19 @@ Drawer {
                 { name: "file", title: qsTr("Save as Text File…") },
                 { name: "mail", title: qsTr("E-mail") },
                 { name: "sms", title: qsTr("Text Message") },
+                { name: "savecopy", title: qsTr("Save a Copy…") },
+                { name: "openwith", title: qsTr("Open With…") },
                 { name: "cancel", title: qsTr("Cancel") }
             ]
             delegate: ItemDelegate {
                 required property var modelData
                 objectName: "share-" + modelData.name
                 Layout.fillWidth: true
+                readonly property bool forFile: modelData.name === "savecopy" || modelData.name === "openwith"
                 // Asking the desktop for a handler waits until the sheet is wanted.
-                visible: (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText))
-                         && (modelData.name !== "mail" || (Sharing.showing && Sharing.canSendMail))
+                visible: modelData.name === "cancel" || (forFile === Sharing.sharesFile
+                         && (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText))
+                         && (modelData.name !== "mail" || (Sharing.showing && Sharing.canSendMail)))
                 text: modelData.title
                 font.pixelSize: 17
                 font.bold: modelData.name === "cancel"
@@ -69,9 +76,11 @@ Drawer {
                 onClicked: {
                     switch (modelData.name) {
                     case "copy": Sharing.copyToClipboard(); break
-                    case "file": sheet.openSaveDialog(); break
+                    case "file": sheet.openDialog(saveDialog); break
                     case "mail": Sharing.email(); break
                     case "sms": Sharing.textMessage(); break
+                    case "savecopy": sheet.openDialog(copyDialog); break
+                    case "openwith": Sharing.openWith(); break
                     default: Sharing.cancel()
                     }
                 }
@@ -79,16 +88,23 @@ Drawer {
         }
     }
 
-    Loader {
-        id: saveDialog
+    // A dialog whose QML module is missing is reported, never a crash.
+    component DialogLoader: Loader {
         Layout.preferredHeight: 0
         active: false
-        source: sheet.saveDialogSource
         onStatusChanged: {
             if (status !== Loader.Error)
                 return
             active = false
             Sharing.saveDialogUnavailable("Qt.labs.folderlistmodel")
         }
+    }
+    DialogLoader {
+        id: saveDialog
+        source: sheet.saveDialogSource
+    }
+    DialogLoader {
+        id: copyDialog
+        source: sheet.copyDialogSource
     }
 }

@@ -4,6 +4,8 @@
 
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QSaveFile>
@@ -11,6 +13,46 @@
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+bool desktopHandles(const QString &scheme)
+{
+    QProcess query;
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"x-scheme-handler/"_s + scheme});
+    return query.waitForFinished(3000) && query.exitCode() == 0 && !query.readAllStandardOutput().trimmed().isEmpty();
+}
+
+void reportMailFailure(const QString &detail)
+{
+    Alerts::shared().presentAsync({u"Sending Email"_s, u"The mail program could not be started: "_s + detail, {u"OK"_s}, {}});
+}
+
+// Runs a desktop helper; a helper that cannot start or ends in failure is reported.
+void runHelper(const QString &program, const QStringList &arguments, const std::function<void(const QString &)> &failed)
+{
+    auto *process = new QProcess;
+    QObject::connect(process, &QProcess::errorOccurred, process, [process, program, failed](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            failed(program + u" is not installed"_s);
+            process->deleteLater();
+        }
+    });
+    QObject::connect(process, &QProcess::finished, process, [process, program, failed](int exitCode, QProcess::ExitStatus status) {
+        if (status != QProcess::NormalExit || exitCode != 0)
+            failed(u"%1 ended with status %2"_s.arg(program).arg(exitCode));
+        process->deleteLater();
+    });
+    process->start(program, arguments);
+}
+}
+
+Sharing::Sharing(QObject *parent)
+    : QObject(parent)
+{
+    connect(this, &Sharing::failed, this, [](const QString &message) {
+        Alerts::shared().presentAsync({u"Share"_s, message, {u"OK"_s}, {}});
+    });
+}
 
 Sharing &Sharing::shared()
 {
@@ -24,36 +66,12 @@ Sharing *Sharing::create(QQmlEngine *, QJSEngine *)
     return &shared();
 }
 
-namespace {
-bool schemeHandlerExists(const QString &scheme)
-{
-    QProcess query;
-    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"x-scheme-handler/"_s + scheme});
-    return query.waitForFinished(3000) && query.exitCode() == 0
-        && !query.readAllStandardOutput().trimmed().isEmpty();
-}
-
-void reportFailure(const QString &title, const QString &message)
-{
-    Alerts::shared().present({title, message, {u"OK"_s}, {}});
-}
-}
-
 bool Sharing::canSendText() const
 {
     if (m_canSendOverride)
         return *m_canSendOverride;
-    static const bool handlerExists = schemeHandlerExists(u"sms"_s);
+    static const bool handlerExists = desktopHandles(u"sms"_s);
     return handlerExists;
-}
-
-bool Sharing::canSendMail() const
-{
-    if (m_canMailOverride)
-        return *m_canMailOverride;
-    static const bool mailWorks = !QStandardPaths::findExecutable(u"xdg-email"_s).isEmpty()
-                                  && schemeHandlerExists(u"mailto"_s);
-    return mailWorks;
 }
 
 void Sharing::present(Request request)
@@ -90,7 +108,7 @@ void Sharing::saveToFile(const QUrl &file)
 {
     QSaveFile output(file.toLocalFile());
     if (!output.open(QIODevice::WriteOnly) || output.write(text().toUtf8()) < 0 || !output.commit()) {
-        reportFailure(u"Save as Text File"_s, u"The text could not be saved: "_s + output.errorString());
+        Q_EMIT failed(u"The text could not be saved: "_s + output.errorString());
         return;
     }
     dismiss(true);
@@ -103,8 +121,9 @@ void Sharing::email()
     query.addQueryItem(u"subject"_s, u"The Larkwells Book"_s);
     query.addQueryItem(u"body"_s, QString::fromUtf8(QUrl::toPercentEncoding(text())));
     mail.setQuery(query);
+    // A mail client that does not start is told, and the sheet stays for another choice.
     if (!QDesktopServices::openUrl(mail)) {
-        reportFailure(u"Sending Email"_s, u"Email not Setup or Unavailable"_s);
+        Alerts::shared().presentAsync({u"Sending Email"_s, u"Email not Setup or Unavailable"_s, {u"OK"_s}, {}});
         return;
     }
     dismiss(true);
@@ -128,11 +147,66 @@ void Sharing::cancel()
 
 void Sharing::saveDialogUnavailable(const QString &reason)
 {
-    reportFailure(u"Save as Text File"_s,
-                  u"Files cannot be saved here: the file dialog is not installed (%1)."_s.arg(reason));
+    Q_EMIT failed(u"Files cannot be saved here: the file dialog is not installed (%1)."_s.arg(reason));
 }
 
 void MessageComposer::messageComposeViewControllerDidFinish(Sharing &sharing, Result result)
 {
     sharing.dismiss(result == Result::Sent);
+}
+
+QString Sharing::fileName() const
+{
+    return sharesFile() ? QFileInfo(m_request->filePath).fileName() : QString();
+}
+
+QUrl Sharing::documentsFolder() const
+{
+    return QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+QUrl Sharing::suggestedCopy() const
+{
+    if (!sharesFile())
+        return {};
+    return QUrl::fromLocalFile(QDir(documentsFolder().toLocalFile()).filePath(fileName()));
+}
+
+void Sharing::saveCopy(const QUrl &target)
+{
+    if (!sharesFile())
+        return;
+    const QString path = target.toLocalFile();
+    QFile::remove(path);
+    if (!QFile::copy(m_request->filePath, path)) {
+        Q_EMIT failed(u"The file could not be saved to "_s + path);
+        return;
+    }
+    dismiss(true);
+}
+
+void Sharing::openWith()
+{
+    if (!sharesFile())
+        return;
+    runHelper(u"xdg-open"_s, {m_request->filePath}, [this](const QString &detail) {
+        Q_EMIT failed(u"The file could not be opened: "_s + detail);
+    });
+    dismiss(true);
+}
+
+bool Sharing::canSendMail() const
+{
+    if (m_canSendMailOverride)
+        return *m_canSendMailOverride;
+    static const bool mailWorks = !QStandardPaths::findExecutable(u"xdg-email"_s).isEmpty() && desktopHandles(u"mailto"_s);
+    return mailWorks;
+}
+
+void Sharing::composeMail(const Mail &mail)
+{
+    QStringList arguments{u"--subject"_s, mail.subject, u"--body"_s, mail.body};
+    if (!mail.attachmentPath.isEmpty())
+        arguments << u"--attach"_s << mail.attachmentPath;
+    runHelper(u"xdg-email"_s, arguments, reportMailFailure);
 }

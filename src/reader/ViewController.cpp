@@ -1,11 +1,10 @@
 #include "ViewController.h"
 
-#include "Alerts.h"
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "Log.h"
-#include "Device.h"
 #include "Navigator.h"
+#include "ReaderText.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "Sharing.h"
@@ -13,17 +12,16 @@
 using namespace Qt::StringLiterals;
 
 ViewController::ViewController(QObject *parent)
-    : QObject(parent)
+    : ReaderScreen(parent)
 {
 }
 
 QString ViewController::composedText(const QString &ampm, const QString &dt, const QString &poemPrayer)
 {
-    if (ampm == u"AM"_s)
-        return u"\nFrom The Larkwells\n Good Morning\n\n"_s + dt + u"\n\n"_s + poemPrayer;
-    if (ampm == u"PM"_s)
-        return u"\nFrom The Larkwells\n Good Night\n\n"_s + dt + u"\n\n"_s + poemPrayer;
-    return poemPrayer;
+    const QString greeting = ReaderText::greeting(ampm);
+    if (greeting.isEmpty())
+        return poemPrayer;
+    return u"\nFrom The Larkwells\n "_s + greeting + u"\n\n"_s + dt + u"\n\n"_s + poemPrayer;
 }
 
 void ViewController::setPoemPrayerText(const QString &text)
@@ -38,9 +36,7 @@ void ViewController::viewDidLoad()
 {
     m_title = u"View Poems/Prayers"_s;
     // The reader's first draw may reach the last wallpaper; redraws never do.
-    m_appearance.drawWallpaper(35);
-    m_deviceid = Device::shared().deviceid();
-    m_appearance.read();
+    loadAppearance(35);
 
     Selection &selection = Selection::shared();
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
@@ -50,10 +46,8 @@ void ViewController::viewDidLoad()
     if (m_appearance.applyTextColor())
         setPoemPrayerText(selection.selectedPoemPrayer());
 
-    if (selection.selectedAmpm() == u"AM"_s)
-        m_title = u"Good Morning"_s;
-    else if (selection.selectedAmpm() == u"PM"_s)
-        m_title = u"Good Night"_s;
+    if (const QString greeting = ReaderText::greeting(selection.selectedAmpm()); !greeting.isEmpty())
+        m_title = greeting;
     Q_EMIT loaded();
 
     if (selection.selectedFavorite() == u"T"_s)
@@ -101,22 +95,12 @@ void ViewController::ChangeFontSize(double value)
     m_appearance.ChangeFontSize(value);
 }
 
-void ViewController::HandlePinch(double scale)
-{
-    m_appearance.HandlePinch(scale);
-}
-
 void ViewController::SharePoem()
 {
-    if (!Sharing::shared().canSendText()) {
-        Alerts::shared().presentAsync({u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s,
-                                       {u"OK"_s}, {}});
-        return;
-    }
-    const QString ampm = Selection::shared().selectedAmpm();
-    if (ampm != u"AM"_s && ampm != u"PM"_s)
-        return;
-    Sharing::shared().present({m_PoemPrayerText, {}, {}});
+    ReaderText::shareAsTextMessage(
+        Selection::shared().selectedAmpm(),
+        {u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s, {u"OK"_s}, {}}, true,
+        [this](const QString &) { return m_PoemPrayerText; });
 }
 
 void ViewController::FacebookShare()

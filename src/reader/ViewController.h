@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Appearance.h"
+#include "ReaderScreen.h"
 #include "Entities.h"
 
 #include <QObject>
@@ -8,24 +8,18 @@
 
 // Shows one page of the book under its heading and date, in the reader's font, size and colour
 // over a wallpaper; marks it a favourite, saves edits, changes the size and shares it.
-class ViewController : public QObject
+class ViewController : public ReaderScreen
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString title READ title NOTIFY loaded)
     Q_PROPERTY(QString PoemPrayerText READ PoemPrayerText WRITE setPoemPrayerText NOTIFY PoemPrayerTextChanged)
-    Q_PROPERTY(ReaderAppearance *appearance READ appearance CONSTANT)
-    Q_PROPERTY(int deviceid READ deviceid NOTIFY loaded)
 
 public:
     explicit ViewController(QObject *parent = nullptr);
 
-    QString title() const { return m_title; }
     // The text view's content: the composed text, with the reader's edits.
     QString PoemPrayerText() const { return m_PoemPrayerText; }
     void setPoemPrayerText(const QString &text);
-    ReaderAppearance *appearance() { return &m_appearance; }
-    int deviceid() const { return m_deviceid; }
     QString CombinedText() const { return m_CombinedText; }
 
     // The heading, date and page text the reader shows for a selection.
@@ -37,13 +31,11 @@ public:
     Q_INVOKABLE void SavePoem();
     // The size stepper moved to `value`.
     Q_INVOKABLE void ChangeFontSize(double value);
-    Q_INVOKABLE void HandlePinch(double scale);
     Q_INVOKABLE void SharePoem();
     Q_INVOKABLE void FacebookShare();
     Q_INVOKABLE void BackToMain();
 
 Q_SIGNALS:
-    void loaded();
     void PoemPrayerTextChanged();
     // The favourite box should show this state (0 unchecked, 1 checked).
     void favoriteCheckStateRequested(int checkState, bool animated);
@@ -51,9 +43,6 @@ Q_SIGNALS:
 private:
     void save();
 
-    ReaderAppearance m_appearance;
-    int m_deviceid = 0;
-    QString m_title;
     QString m_CombinedText;
     QString m_PoemPrayerText;
     QList<PoemPrayer *> m_Results;

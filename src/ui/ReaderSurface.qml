@@ -65,7 +65,7 @@ Flickable {
         }
         Accessible.role: Accessible.EditableText
         Accessible.name: surface.accessibleName
-        Accessible.description: text
+        Accessible.description: textFormat === TextEdit.PlainText ? text : getText(0, length)
 
         Keys.onTabPressed: event => {
             const next = textView.nextItemInFocusChain(true)

@@ -2,6 +2,7 @@
 list(APPEND LARKWELLS_SOURCES
     ui/Appearance.h ui/Appearance.cpp
     ui/CellBackground.h ui/CellBackground.cpp
+    ui/ReaderScreen.h ui/ReaderScreen.cpp
     ui/Wallpapers.h ui/Wallpapers.cpp
 )
 list(APPEND LARKWELLS_QML

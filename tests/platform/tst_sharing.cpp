@@ -65,7 +65,7 @@ std::unique_ptr<QQuickWindow> TestSharing::showSheet(QQmlEngine &engine)
         qWarning() << component.errorString();
     if (!window || !QTest::qWaitForWindowExposed(window.get()))
         return nullptr;
-    Sharing::shared().present({u"A line to share"_s, {}, {}});
+    Sharing::shared().present({u"A line to share"_s, {}, {}, {}});
     auto *sheet = window->findChild<QObject *>(u"sheet"_s);
     if (!QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }))
         return nullptr;
@@ -134,7 +134,7 @@ void TestSharing::missingDialogModuleIsAnAlert()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"notinstalled"_s));
     QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
     QTRY_VERIFY(Alerts::shared().showing());
-    QCOMPARE(Alerts::shared().title(), u"Save as Text File"_s);
+    QCOMPARE(Alerts::shared().title(), u"Share"_s);
     QVERIFY(Alerts::shared().message().contains(u"file dialog is not installed"_s));
     QVERIFY(Sharing::shared().showing()); // the user can still choose another way
 }
@@ -143,10 +143,10 @@ void TestSharing::unwritableFileIsAnAlert()
 {
     TestEnvironment environment;
     bool completed = true;
-    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}});
+    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}, {}});
     Sharing::shared().saveToFile(QUrl::fromLocalFile(environment.dataDirectory() + u"/no/such/folder/x.txt"_s));
-    QVERIFY(Alerts::shared().showing());
-    QCOMPARE(Alerts::shared().title(), u"Save as Text File"_s);
+    QTRY_VERIFY(Alerts::shared().showing());
+    QCOMPARE(Alerts::shared().title(), u"Share"_s);
     QVERIFY(Sharing::shared().showing());
     Sharing::shared().cancel();
     QVERIFY(!completed);
@@ -156,10 +156,10 @@ void TestSharing::mailThatCannotStartIsAnAlert()
 {
     TestEnvironment environment;
     std::optional<bool> completed;
-    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}});
+    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}, {}});
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"mailto"_s)); // no mail client here
     Sharing::shared().email();
-    QVERIFY(Alerts::shared().showing());
+    QTRY_VERIFY(Alerts::shared().showing());
     QCOMPARE(Alerts::shared().title(), u"Sending Email"_s);
     QCOMPARE(Alerts::shared().message(), u"Email not Setup or Unavailable"_s);
     QVERIFY(!completed); // nothing done yet: the sheet stays for another choice

@@ -20,3 +20,20 @@ inline void insertPages(const QStringList &rows)
     }
     context.save();
 }
+
+// Special days written straight into the test's store: "ampm|dayname|poemprayer", with "-" for
+// a value left unset.
+inline void insertSpecialDays(const QStringList &rows)
+{
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    const QStringList columns{QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")};
+    for (const QString &row : rows) {
+        SpecialDay *day = context.insertNewObject<SpecialDay>();
+        const QStringList fields = row.split(u'|');
+        for (qsizetype i = 0; i < fields.size(); ++i) {
+            if (fields[i] != u"-")
+                day->setValueForKey(columns[i], fields[i]);
+        }
+    }
+    context.save();
+}

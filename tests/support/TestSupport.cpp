@@ -13,6 +13,8 @@
 #include <QFile>
 #include <QQmlExtensionPlugin>
 #include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
 
 Q_IMPORT_QML_PLUGIN(LarkwellsPlugin)
 
@@ -76,4 +78,37 @@ QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName)
             return found;
     }
     return nullptr;
+}
+
+QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName)
+{
+    QQuickItem *item = nullptr;
+    QRectF last;
+    const bool settled = QTest::qWaitFor([&] {
+        item = findVisibleItem(window->contentItem(), objectName);
+        if (!item)
+            return false;
+        const QRectF now = item->mapRectToScene(item->boundingRect());
+        const bool still = now == last && !now.isEmpty();
+        last = now;
+        if (!still)
+            QTest::qWait(40);
+        return still;
+    }, 15000);
+    return settled ? item : nullptr;
+}
+
+void click(QQuickWindow *window, QQuickItem *item)
+{
+    QVERIFY(item);
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+}
+
+QString topPage(QQuickWindow *window)
+{
+    auto *stack = findItem(window->contentItem(), QStringLiteral("stack"));
+    if (!stack || stack->property("busy").toBool())
+        return QString();
+    return stack->property("currentItem").value<QQuickItem *>()->objectName();
 }

@@ -32,3 +32,12 @@ class QQuickItem;
 QQuickItem *findItem(QQuickItem *root, const QString &objectName);
 // The same among the items a user can see (hidden subtrees, such as covered screens, skipped).
 QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName);
+
+class QQuickWindow;
+// The visible item with this name once it has stopped moving (slid open, laid out), or null
+// after 15 s.
+QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName);
+// A mouse click at the item's centre.
+void click(QQuickWindow *window, QQuickItem *item);
+// The object name of the screen on top, once the stack has stopped moving; empty while it moves.
+QString topPage(QQuickWindow *window);

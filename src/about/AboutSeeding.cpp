@@ -1,0 +1,71 @@
+#include "AboutSeeding.h"
+
+#include "AboutFile.h"
+#include "AppDelegate.h"
+#include "Bundle.h"
+#include "Entities.h"
+#include "FatalError.h"
+#include "Log.h"
+#include "StoreSnapshots.h"
+
+using namespace Qt::StringLiterals;
+
+void AboutSeeding::clearAbouts()
+{
+    StoreSnapshots::take(u"about-first-visit"_s);
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    std::optional<StoreError> error;
+    const QList<About *> articles = context.fetch<About>(About::fetchRequest(), &error);
+    if (error)
+        return;
+    for (About *article : articles) {
+        context.deleteObject(article);
+        if (const auto saveError = context.save())
+            Log::line(saveError->unresolvedMessage());
+    }
+}
+
+void AboutSeeding::loadAbouts()
+{
+    const QString path = Bundle::main().pathForResource(u"About"_s, u"txt"_s);
+    if (path.isEmpty())
+        fatalError(u"Fatal error: the about file About.txt is missing from the application"_s);
+    const auto read = AboutFile::read(path);
+    if (const auto *error = std::get_if<AboutFile::ReadError>(&read)) {
+        Log::line(error->description);
+        fatalError(u"Fatal error: the about file could not be read: "_s + error->description);
+    }
+    FileObject = std::get<QString>(read);
+    for (const QString &line : AboutFile::lines(*FileObject))
+        loadLine(line);
+}
+
+void AboutSeeding::loadLine(const QString &line)
+{
+    const auto parsed = AboutFile::article(line);
+    if (const auto *error = std::get_if<AboutFile::ParseError>(&parsed))
+        fatalError(u"Fatal error: malformed about line: "_s + error->message);
+    const AboutFile::Article &article = std::get<AboutFile::Article>(parsed);
+    theName = article.name;
+    theAboutText = article.text;
+
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    // The name is the key: a name already stored keeps its first article. An empty name is
+    // looked up as the empty name.
+    FetchRequest request = About::fetchRequest();
+    request.predicate = Predicate::equals(u"name"_s, *theName);
+    std::optional<StoreError> error;
+    const QList<About *> found = context.fetch<About>(request, &error);
+    if (!error)
+        ResultCount = int(found.size());
+    if (ResultCount != 0)
+        return;
+
+    // An empty field is not stored: the attribute stays absent.
+    About *about = context.insertNewObject<About>();
+    if (!theName->isEmpty())
+        about->setName(theName);
+    if (theAboutText && !theAboutText->isEmpty())
+        about->setAboutText(theAboutText);
+    static_cast<void>(context.save()); // a failed save is passed over; the next line goes on
+}

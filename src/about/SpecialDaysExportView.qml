@@ -1,0 +1,7 @@
+import Larkwells
+
+// The export screen for the special days.
+ExportView {
+    objectName: "SpecialDaysExportView"
+    controller: SpecialDaysExportViewController {}
+}

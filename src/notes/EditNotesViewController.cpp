@@ -1,0 +1,208 @@
+#include "EditNotesViewController.h"
+
+#include "Alerts.h"
+#include "AppDelegate.h"
+#include "Clock.h"
+#include "Entities.h"
+#include "Log.h"
+#include "Navigator.h"
+#include "Selection.h"
+
+#include <QLocale>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// Empty text is stored as empty, never as unset: the lookup of a note compares with "".
+QString stored(const QString &text)
+{
+    return text.isNull() ? u""_s : text;
+}
+}
+
+EditNotesViewController::EditNotesViewController(QObject *parent)
+    : QObject(parent)
+    , m_datePickerView(Clock::now())
+    , m_NoteDate(m_datePickerView)
+{
+}
+
+QString EditNotesViewController::fullDate(const QDateTime &date)
+{
+    return QLocale().toString(date.date(), QLocale::LongFormat);
+}
+
+QStringList EditNotesViewController::segmentTitles() const
+{
+    return {u"Left"_s, u"Center"_s, u"Right"_s};
+}
+
+int EditNotesViewController::alignment() const
+{
+    static const Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+    return int(alignments[m_segmentIndex]);
+}
+
+void EditNotesViewController::setSubjectTextField(const QString &text)
+{
+    if (text == m_SubjectTextField)
+        return;
+    m_SubjectTextField = text;
+    Q_EMIT textChanged();
+}
+
+void EditNotesViewController::setNotesTextView(const QString &text)
+{
+    if (text == m_NotesTextView)
+        return;
+    m_NotesTextView = text;
+    Q_EMIT textChanged();
+}
+
+bool EditNotesViewController::hasChanges() const
+{
+    return QStringList{m_SubjectTextField, m_NotesTextView, m_DateTextField} != m_loadedTexts;
+}
+
+void EditNotesViewController::viewDidLoad()
+{
+    const Selection &selection = Selection::shared();
+    m_SubjectTextField = selection.editNoteSubject();
+    m_NotesTextView = selection.editNoteText();
+    if (selection.editNoteDate().isValid()) {
+        m_datePickerView = selection.editNoteDate();
+        m_NoteDate = m_datePickerView;
+        Q_EMIT datePickerViewChanged();
+    }
+    m_DateTextField = fullDate(m_datePickerView);
+    m_loadedTexts = {m_SubjectTextField, m_NotesTextView, m_DateTextField};
+    Q_EMIT textChanged();
+}
+
+void EditNotesViewController::DateEntered()
+{
+    if (Selection::shared().editNoteDtstring().isEmpty())
+        m_DateTextField = fullDate(m_datePickerView);
+    m_NoteDate = m_datePickerView;
+    Q_EMIT textChanged();
+}
+
+void EditNotesViewController::dateChanged(int year, int month, int day)
+{
+    const QDate date(year, month, day);
+    if (date.isValid() && date != m_datePickerView.date()) {
+        m_datePickerView.setDate(date);
+        Q_EMIT datePickerViewChanged();
+    }
+    m_DateTextField = fullDate(m_datePickerView);
+    m_NoteDate = m_datePickerView;
+    Q_EMIT textChanged();
+}
+
+void EditNotesViewController::doneClick(int year, int month, int day)
+{
+    dateChanged(year, month, day);
+    Q_EMIT endEditingRequested();
+}
+
+void EditNotesViewController::todayClick()
+{
+    // Today's text, but the picker's date: the picker is not moved.
+    m_DateTextField = fullDate(Clock::now());
+    m_NoteDate = m_datePickerView;
+    Q_EMIT textChanged();
+    Q_EMIT endEditingRequested();
+}
+
+void EditNotesViewController::segmentedControlAction(int index)
+{
+    if (index < 0 || index >= 3 || index == m_segmentIndex)
+        return;
+    m_segmentIndex = index;
+    Q_EMIT segmentIndexChanged();
+}
+
+void EditNotesViewController::SaveButtonClicked()
+{
+    if (save())
+        Navigator::shared().unwind(u"unwindToNotesSegue"_s);
+}
+
+bool EditNotesViewController::save()
+{
+    const Selection &selection = Selection::shared();
+    FetchRequest request = Notes::fetchRequest();
+    request.predicate = Predicate::conjunction({
+        Predicate::equals(u"month"_s, QString::number(selection.editNoteMonth())),
+        Predicate::equals(u"day"_s, QString::number(selection.editNoteDay())),
+        Predicate::equals(u"ampm"_s, stored(selection.selectedAmpm())),
+        Predicate::equals(u"year"_s, QString::number(selection.editNoteYear())),
+        Predicate::equals(u"subject"_s, stored(selection.editNoteSubject())),
+    });
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    const QList<Notes *> Results = context.fetch<Notes>(request);
+
+    if (Results.isEmpty()) {
+        // A new note: the page's day and time of day, no year or date until it is edited.
+        Notes *note = context.insertNewObject<Notes>();
+        note->setMonth(selection.selectedMonth());
+        note->setDay(selection.selectedDay());
+        note->setNotes(stored(m_NotesTextView));
+        note->setAmpm(stored(selection.selectedAmpm()));
+        note->setSubject(stored(m_SubjectTextField));
+        note->setYear(0); // reads as no year, and lets the note's first edit find it by year 0
+        if (const auto error = context.save()) {
+            context.deleteObject(note); // not kept half-saved: the next try inserts it again
+            reportFailedSave(error->unresolvedMessage());
+            return false;
+        }
+        return true;
+    }
+    if (Results.size() == 1) {
+        Notes *note = Results.first();
+        const QDate date = m_NoteDate.date();
+        const QVariantHash values{
+            {u"notes"_s, stored(m_NotesTextView)}, {u"year"_s, date.year()}, {u"month"_s, date.month()},
+            {u"day"_s, date.day()}, {u"ampm"_s, stored(selection.selectedAmpm())},
+            {u"subject"_s, stored(m_SubjectTextField)}, {u"dt"_s, m_NoteDate}, {u"dtstring"_s, m_DateTextField},
+        };
+        QVariantHash before;
+        for (auto it = values.cbegin(); it != values.cend(); ++it) {
+            before.insert(it.key(), note->valueForKey(it.key()));
+            note->setValueForKey(it.key(), it.value());
+        }
+        if (const auto error = note->managedObjectContext()->save()) {
+            // Back as stored, so the next try finds the note again by its old subject.
+            for (auto it = before.cbegin(); it != before.cend(); ++it)
+                note->setValueForKey(it.key(), it.value());
+            reportFailedSave(error->unresolvedMessage());
+            return false;
+        }
+    }
+    // Two or more matches: which one is meant cannot be told, so nothing is written.
+    return true;
+}
+
+void EditNotesViewController::reportFailedSave(const QString &description)
+{
+    // Logged only, as every failed save is; the editor stays open with the text, so nothing
+    // the reader wrote is lost and Save can be pressed again.
+    Log::line(description);
+}
+
+void EditNotesViewController::BackButtonClicked()
+{
+    if (!hasChanges()) {
+        Q_EMIT dismissRequested();
+        return;
+    }
+    QPointer<EditNotesViewController> self(this);
+    Alerts::shared().present({u"Discard changes?"_s,
+                              u"What you typed in this note will be lost."_s,
+                              {u"Discard"_s, u"Keep Editing"_s},
+                              [self](int button) {
+                                  if (self && button == 0)
+                                      Q_EMIT self->dismissRequested();
+                              }});
+}

@@ -1,0 +1,153 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Larkwells
+
+// The note's date picker, docked at the bottom: month, day and year wheels under a bar with
+// "Done" and "Today". The wheels turn by touch, by Up/Down once focused (Tab moves between
+// them), and by a screen reader's increase and decrease.
+Popup {
+    id: picker
+    property date date: new Date()
+    signal picked(date date)
+    signal doneClicked(date date)
+    signal todayClicked()
+
+    readonly property int firstYear: 1900
+    property bool syncing: false
+
+    function chosenDate(): date {
+        return new Date(firstYear + yearWheel.currentIndex, monthWheel.currentIndex,
+                        Math.min(dayWheel.currentIndex + 1, daysIn(monthWheel.currentIndex, firstYear + yearWheel.currentIndex)))
+    }
+    function daysIn(month: int, year: int): int {
+        return new Date(year, month + 1, 0).getDate()
+    }
+    function show(shown: date) {
+        syncing = true
+        yearWheel.currentIndex = shown.getFullYear() - firstYear
+        monthWheel.currentIndex = shown.getMonth()
+        dayWheel.labels = dayLabels(daysIn(shown.getMonth(), shown.getFullYear()))
+        dayWheel.currentIndex = shown.getDate() - 1
+        syncing = false
+        open()
+        monthWheel.forceActiveFocus()
+    }
+    function dayLabels(days: int): list<string> {
+        return Array.from({ length: days }, (_, i) => String(i + 1))
+    }
+    function wheelMoved() {
+        if (syncing || !visible)
+            return
+        const days = daysIn(monthWheel.currentIndex, firstYear + yearWheel.currentIndex)
+        if (dayWheel.count !== days) {
+            const day = dayWheel.currentIndex
+            syncing = true
+            dayWheel.labels = dayLabels(days)
+            dayWheel.currentIndex = Math.min(day, days - 1)
+            syncing = false
+        }
+        picked(chosenDate())
+    }
+
+    modal: true
+    dim: false
+    padding: 0
+    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    background: Rectangle {
+        color: "white"
+        Rectangle { width: parent.width; height: 1; color: Theme.border }
+    }
+
+    component Wheel: Tumbler {
+        id: wheel
+        property string title
+        property list<string> labels
+        model: labels
+        visibleItemCount: 5
+        activeFocusOnTab: true
+        Layout.fillWidth: true
+        Layout.preferredHeight: 176
+        Accessible.role: Accessible.SpinBox
+        Accessible.name: title + ", " + (labels[currentIndex] ?? "")
+        Accessible.onIncreaseAction: step(1)
+        Accessible.onDecreaseAction: step(-1)
+        Keys.onUpPressed: step(-1)
+        Keys.onDownPressed: step(1)
+        Keys.onReturnPressed: picker.doneClicked(picker.chosenDate())
+        Keys.onEnterPressed: picker.doneClicked(picker.chosenDate())
+        onCurrentIndexChanged: picker.wheelMoved()
+        function step(delta: int) {
+            currentIndex = (currentIndex + delta + count) % count
+        }
+        // Spelled out: an inline component does not wrap a delegate object by itself on Qt 6.4.
+        delegate: Component {
+            Label {
+                required property string modelData
+                required property int index // read by the Tumbler's attached displacement
+                text: modelData
+                font.pixelSize: 18
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                opacity: 1.0 - Math.abs(Tumbler.displacement) / (wheel.visibleItemCount / 2)
+            }
+        }
+        Rectangle {
+            anchors.fill: parent
+            color: "transparent"
+            radius: 6
+            border.width: Theme.focusRingWidth
+            border.color: Theme.tint
+            visible: wheel.activeFocus
+        }
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+        ToolBar {
+            Layout.fillWidth: true
+            background: Rectangle { color: Theme.cellColor }
+            RowLayout {
+                anchors.fill: parent
+                BarButton {
+                    objectName: "DoneButton"
+                    text: qsTr("Done")
+                    onClicked: picker.doneClicked(picker.chosenDate())
+                }
+                Item { Layout.fillWidth: true }
+                BarButton {
+                    objectName: "TodayButton"
+                    text: qsTr("Today")
+                    onClicked: picker.todayClicked()
+                }
+            }
+        }
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.margins: 8
+            Wheel {
+                id: monthWheel
+                objectName: "monthWheel"
+                title: qsTr("Month")
+                labels: Array.from({ length: 12 }, (_, i) => Qt.locale().monthName(i, Locale.LongFormat))
+                Layout.preferredWidth: 3
+            }
+            Wheel {
+                id: dayWheel
+                objectName: "dayWheel"
+                title: qsTr("Day")
+                labels: picker.dayLabels(31)
+                Layout.preferredWidth: 1
+            }
+            Wheel {
+                id: yearWheel
+                objectName: "yearWheel"
+                title: qsTr("Year")
+                labels: Array.from({ length: 201 }, (_, i) => String(picker.firstYear + i))
+                Layout.preferredWidth: 2
+            }
+        }
+    }
+}

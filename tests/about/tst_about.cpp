@@ -1,0 +1,180 @@
+#include "AboutEditViewController.h"
+#include "AboutNewViewController.h"
+#include "AboutRows.h"
+#include "AboutTableViewController.h"
+#include "FatalError.h"
+#include "Selection.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestAbout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void firstVisitSeeds_data();
+    void firstVisitSeeds();
+    void threeFieldsStop();
+    void secondVisitLeavesTheTable();
+    void headings_data();
+    void headings();
+    void savingRepeatsTheHeading();
+    void newArticle_data();
+    void newArticle();
+};
+
+void TestAbout::firstVisitSeeds_data()
+{
+    QTest::addColumn<QStringList>("before");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("stored");
+    QTest::newRow("CR LF, markers and blank lines anywhere, earlier rows gone")
+        << QStringList{u"Old|old"_s} << u"[ABOUT]\r\nA^one\r\n\r\n[ABOUT]\r\nB^two\r\n"_s
+        << QStringList{u"A|one"_s, u"B|two"_s};
+    QTest::newRow("a line without ^ is a name alone") << QStringList() << u"Just a name"_s
+                                                      << QStringList{u"Just a name|-"_s};
+    QTest::newRow("a line starting with ^ has no name; two of them both stay")
+        << QStringList() << u"^first\n^second"_s << QStringList{u"-|first"_s, u"-|second"_s};
+    QTest::newRow("the first line of a name wins") << QStringList() << u"A^first\nB^b\nA^second"_s
+                                                   << QStringList{u"A|first"_s, u"B|b"_s};
+    QTest::newRow("@#@ is a line break; an empty text is not stored")
+        << QStringList() << u"A^one@#@@#@two\nB^"_s << QStringList{u"A|one\n\ntwo"_s, u"B|-"_s};
+    QTest::newRow("only markers") << QStringList{u"Old|old"_s} << u"[ABOUT]\n\n[ABOUT]"_s << QStringList();
+}
+
+void TestAbout::firstVisitSeeds()
+{
+    QFETCH(QStringList, before);
+    QFETCH(QString, file);
+    QFETCH(QStringList, stored);
+    TestEnvironment environment;
+    insertAbouts(before);
+    environment.addBundleFile(u"About.txt"_s, file.toUtf8());
+
+    AboutTableViewController controller;
+    controller.viewDidLoad();
+
+    QCOMPARE(controller.title(), u"About"_s);
+    QCOMPARE(storedAbouts(), stored);
+    QCOMPARE(controller.AboutList().size(), stored.size());
+    QCOMPARE(environment.logLines, QStringList{u"First Launch"_s});
+    QVERIFY(UserDefaults::standard().boolForKey(u"AboutHasBeenLaunchedBeforeFlag"_s));
+}
+
+void TestAbout::threeFieldsStop()
+{
+    TestEnvironment environment;
+    environment.addBundleFile(u"About.txt"_s, "A^one\nB^two^three\nC^four");
+    AboutTableViewController controller;
+    try {
+        controller.viewDidLoad();
+        QFAIL("a line with three fields must stop the application");
+    } catch (const FatalErrorException &error) {
+        QVERIFY2(error.message().contains(u"Index out of range"_s), qPrintable(error.message()));
+    }
+    QCOMPARE(storedAbouts(), QStringList{u"A|one"_s});
+    QVERIFY(UserDefaults::standard().boolForKey(u"AboutHasBeenLaunchedBeforeFlag"_s));
+}
+
+void TestAbout::secondVisitLeavesTheTable()
+{
+    TestEnvironment environment;
+    environment.addBundleFile(u"About.txt"_s, "A^one");
+    AboutTableViewController().viewDidLoad();
+    // The user's articles are gone and the file changed: neither matters any more.
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    context.deleteObject(context.fetch<About>(About::fetchRequest()).first());
+    QVERIFY(!context.save());
+    environment.addBundleFile(u"About.txt"_s, "B^two");
+    environment.logLines.clear();
+
+    AboutTableViewController second;
+    second.viewDidLoad();
+
+    QCOMPARE(environment.logLines, QStringList{u"Not First Launch"_s});
+    QVERIFY(storedAbouts().isEmpty());
+    QVERIFY(second.AboutNames().isEmpty());
+}
+
+void TestAbout::headings_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<bool>("left");
+    QTest::newRow("morning authors") << u"Good Morning Authors"_s
+                                     << u"From The Larkwells\nGood Morning Authors\n\nT"_s << true;
+    QTest::newRow("night authors") << u"Authors of Good Night"_s
+                                   << u"From The Larkwells\nAuthors of Good Night\n\nT"_s << true;
+    QTest::newRow("morning preface") << u"Good Morning Preface"_s << u"From The Larkwells\n Good Morning \n\n T"_s
+                                     << false;
+    QTest::newRow("night preface") << u"Preface Good Night"_s << u"From The Larkwells\n Good Night \n\n T"_s << false;
+    QTest::newRow("morning acknowledgements") << u"Good Morning Acknowledgements"_s
+                                              << u"From The Larkwells\n Good Morning \n\n T"_s << false;
+    QTest::newRow("night acknowledgements") << u"Good Night Acknowledgements"_s
+                                            << u"From The Larkwells\n Good Night \n\n T"_s << false;
+    QTest::newRow("authors before preface") << u"Good Night Preface Authors"_s
+                                            << u"From The Larkwells\nGood Night Preface Authors\n\nT"_s << true;
+    QTest::newRow("acknowledgements alone is empty") << u"Acknowledgements"_s << QString() << false;
+    QTest::newRow("case matters") << u"good morning preface"_s << QString() << false;
+}
+
+void TestAbout::headings()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, shown);
+    QFETCH(bool, left);
+    TestEnvironment environment;
+    Selection::shared().setSelectedAboutName(name);
+    Selection::shared().setSelectedAboutText(u"T"_s);
+    AboutEditViewController controller;
+    controller.viewDidLoad();
+    QCOMPARE(controller.AboutItemText(), shown);
+    QCOMPARE(Selection::shared().selectedAboutText(), shown);
+    QCOMPARE(controller.leftAligned(), left);
+}
+
+void TestAbout::savingRepeatsTheHeading()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"AboutHasBeenLaunchedBeforeFlag"_s, true);
+    insertAbouts({u"Good Night Preface|T"_s, u"Other|x"_s});
+    const QString heading = u"From The Larkwells\n Good Night \n\n "_s;
+    for (int save = 1; save <= 2; ++save) {
+        AboutTableViewController list;
+        list.viewDidLoad();
+        list.didSelectRowAt(int(list.AboutNames().indexOf(u"Good Night Preface"_s)));
+        AboutEditViewController article;
+        article.viewDidLoad();
+        environment.logLines.clear();
+        article.SaveAboutItem();
+        QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
+    }
+    QCOMPARE(storedAbouts(), (QStringList{u"Good Night Preface|"_s + heading + heading + u"T"_s, u"Other|x"_s}));
+}
+
+void TestAbout::newArticle_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("stored");
+    QTest::newRow("empty name stores nothing") << QString() << QStringList{u"Same|old"_s};
+    QTest::newRow("text kept as typed, a name may repeat")
+        << u"Same"_s << QStringList{u"Same|old"_s, u"Same|line one\nline @#@ two"_s};
+}
+
+void TestAbout::newArticle()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, stored);
+    TestEnvironment environment;
+    insertAbouts({u"Same|old"_s});
+    AboutNewViewController().SaveAboutItem(name, u"line one\nline @#@ two"_s);
+    QCOMPARE(storedAbouts(), stored);
+    QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
+}
+
+QTEST_MAIN(TestAbout)
+#include "tst_about.moc"

@@ -1,0 +1,153 @@
+#include "AboutImportUndo.h"
+#include "Alerts.h"
+#include "PageRows.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
+{
+    QQuickItem *item = nullptr;
+    QTest::qWaitFor([&] {
+        item = findVisibleItem(window->contentItem(), name);
+        return item && item->width() > 0 && item->height() > 0;
+    }, 15000);
+    return item;
+}
+
+void click(QQuickWindow *window, QQuickItem *item)
+{
+    QVERIFY(item);
+    QTest::mouseClick(window, Qt::LeftButton, {}, item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+}
+
+QQuickItem *topPage(QQuickWindow *window)
+{
+    auto *stack = findItem(window->contentItem(), u"stack"_s);
+    if (!stack || stack->property("busy").toBool())
+        return nullptr;
+    return stack->property("currentItem").value<QQuickItem *>();
+}
+
+QString topPageName(QQuickWindow *window)
+{
+    QQuickItem *page = topPage(window);
+    return page ? page->objectName() : QString();
+}
+
+QStringList articleNames()
+{
+    const auto container = loadedContainer();
+    QStringList names;
+    for (About *article : container->viewContext().fetch<About>(About::fetchRequest()))
+        names.append(article->name().value_or(u"-"_s));
+    return names;
+}
+}
+
+// The cover's Update Files menu in the real window: a page file made, then an about file picked
+// through the file dialog, imported, and undone.
+class TestUpdateFileWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
+    void exportPagesThenImportAndUndoAnAboutFile();
+};
+
+void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    insertPages({u"January 1|AM|1|1|1|F|Snow"_s});
+    {
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        context.insertNewObject<About>()->setName(u"Before"_s);
+        context.save();
+    }
+    QTemporaryDir folder;
+    const QString picked = folder.filePath(u"About.txt"_s);
+    QFile file(picked);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[ABOUT]\nImported^From the file\n");
+    file.close();
+
+    importLarkwellsModule();
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, u"ResetButton"_s));
+    QTRY_COMPARE(topPageName(window), u"ExportLarkwellFilesView"_s);
+    click(window, waitForItem(window, u"PoemPrayerButton"_s));
+    QTRY_COMPARE(topPageName(window), u"ExportView"_s);
+    QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
+    click(window, exportButton);
+    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ExportTextView"_s)->property("text").toString(),
+                 u"[POEMPRAYER]\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
+    QVERIFY(!exportButton->isEnabled());
+    // Typing in the shown file edits the text the mail would send.
+    click(window, waitForItem(window, u"ExportTextViewBlock0"_s));
+    QTest::keyClick(window, Qt::Key_End);
+    QTest::keyClick(window, '!');
+    QObject *exportController = topPage(window)->property("controller").value<QObject *>();
+    QTRY_COMPARE(exportController->property("ExportTextView").toString(), u"[POEMPRAYER]!\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
+    QVERIFY(waitForItem(window, u"SaveButton"_s)->isEnabled());
+
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPageName(window), u"ExportLarkwellFilesView"_s);
+    click(window, waitForItem(window, u"AboutButton"_s));
+    QTRY_COMPARE(topPageName(window), u"AboutImportView"_s);
+    QObject *picker = topPage(window)->findChild<QObject *>(u"documentPicker"_s);
+    QVERIFY(picker);
+    QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
+    QVERIFY(!waitForItem(window, u"ImportButton"_s)->isEnabled());
+    // The picker's own dialog, as if the user chose the file in it and pressed Open.
+    QObject *pickerDialog = nullptr;
+    QTRY_VERIFY(pickerDialog = [window]() -> QObject * {
+        for (QObject *object : window->findChildren<QObject *>()) {
+            if (object->inherits("QQuickFileDialogImpl"))
+                return object;
+        }
+        return nullptr;
+    }());
+    QVERIFY(pickerDialog->setProperty("currentFolder", QUrl::fromLocalFile(folder.path())));
+    QVERIFY(pickerDialog->setProperty("selectedFile", QUrl::fromLocalFile(picked)));
+    QVERIFY(QMetaObject::invokeMethod(pickerDialog, "accept"));
+    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ImportTextView"_s)->property("text").toString(),
+                 u"[ABOUT]\nImported^From the file\n"_s);
+
+    click(window, waitForItem(window, u"ImportButton"_s));
+    QCOMPARE(articleNames(), QStringList{u"Imported"_s});
+    QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
+    Alerts::shared().dismiss(0);
+    QVERIFY(environment.logLines.contains(u"Back button Clicked"_s));
+
+    QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/Larkwells/about/UndoImportButton.qml"_s));
+    std::unique_ptr<QObject> object(component.create());
+    auto *undo = qobject_cast<QQuickItem *>(object.get());
+    QVERIFY2(undo, qPrintable(component.errorString()));
+    undo->setParentItem(window->contentItem());
+    undo->setZ(1000);
+    QVERIFY(undo->isVisible());
+    QObject *alertDialog = window->findChild<QObject *>(u"alertDialog"_s);
+    QTRY_VERIFY(!alertDialog->property("visible").toBool()); // its modal shade would take the click
+    click(window, undo);
+    QCOMPARE(articleNames(), QStringList{u"Before"_s});
+    QVERIFY(!undo->isVisible());
+}
+
+QTEST_MAIN(TestUpdateFileWindow)
+#include "tst_updatefilewindow.moc"

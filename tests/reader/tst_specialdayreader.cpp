@@ -1,0 +1,177 @@
+#include "EditSpecialDaysViewController.h"
+#include "FatalError.h"
+#include "Navigator.h"
+#include "PageRows.h"
+#include "Selection.h"
+#include "Sharing.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+void select(const QString &ampm, const QString &dayName, const QString &poem)
+{
+    Selection &selection = Selection::shared();
+    selection.setSelectedSpecialAmpm(ampm);
+    selection.setSelectedSpecialDayName(dayName);
+    selection.setSelectedSpecialPoem(poem);
+}
+
+QStringList storedDays()
+{
+    QStringList rows;
+    for (SpecialDay *day : AppDelegate::shared().viewContext().fetch<SpecialDay>(SpecialDay::fetchRequest()))
+        rows.append(day->ampm().value_or(u"-"_s) + u'|' + day->dayname().value_or(u"-"_s) + u'|'
+                    + day->poemprayer().value_or(u"-"_s));
+    return rows;
+}
+
+}
+
+class TestSpecialDayReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
+    void composesAndStyles_data();
+    void composesAndStyles();
+    void saveWritesOnlyForHeadingWords_data();
+    void saveWritesOnlyForHeadingWords();
+    void listReaderAndBack();
+};
+
+void TestSpecialDayReader::composesAndStyles_data()
+{
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<QVariantMap>("preferences");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<double>("size");
+    QTest::addColumn<QString>("wallpaper");
+    QTest::newRow("morning: a blank before the name; 17 points")
+        << u"AM"_s << QVariantMap() << u"Good Morning\n\n Easter\n\nRisen\nindeed"_s << QColor(Qt::black) << 17.0 << QString();
+    QTest::newRow("night: no blank; stored size, red, wallpaper")
+        << u"PM"_s << QVariantMap{{u"ReaderFontSize"_s, 22.0}, {u"textColor"_s, 2}, {u"useWallpaper"_s, 1}}
+        << u"Good Night\n\nEaster\n\nRisen\nindeed"_s << QColor(0xb0, 0, 0) << 22.0 << u"Page1.jpg"_s;
+    QTest::newRow("neither: the poem alone; colour code 7 shows it in black")
+        << u"pm"_s << QVariantMap{{u"textColor"_s, 7}} << u"Risen\nindeed"_s << QColor(Qt::black) << 17.0 << QString();
+}
+
+void TestSpecialDayReader::composesAndStyles()
+{
+    QFETCH(QString, ampm);
+    QFETCH(QVariantMap, preferences);
+    QFETCH(QString, text);
+    QFETCH(QColor, color);
+    QFETCH(double, size);
+    QFETCH(QString, wallpaper);
+    TestEnvironment environment;
+    for (auto it = preferences.begin(); it != preferences.end(); ++it)
+        UserDefaults::standard().set(it.key(), it.value());
+    select(ampm, u"Easter"_s, u"Risen\nindeed"_s);
+    EditSpecialDaysViewController controller;
+    controller.viewDidLoad();
+    QCOMPARE(controller.PoemPrayerText(), text);
+    QCOMPARE(Selection::shared().selectedSpecialPoem(), text);
+    QCOMPARE(controller.title(), u"Easter"_s);
+    QVERIFY(controller.appearance()->styled());
+    QCOMPARE(controller.appearance()->textColor(), color);
+    QCOMPARE(controller.appearance()->fontSize(), size);
+    QCOMPARE(controller.appearance()->wallpaper().fileName(), wallpaper);
+
+    // The keyboard steps the shown size within the stepper's range and stores nothing.
+    for (int i = 0; i < 40; ++i)
+        controller.StepFontSize(1);
+    QCOMPARE(controller.appearance()->fontSize(), 48.0);
+    QCOMPARE(UserDefaults::standard().object(u"ReaderFontSize"_s), preferences.value(u"ReaderFontSize"_s));
+}
+
+void TestSpecialDayReader::saveWritesOnlyForHeadingWords_data()
+{
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<QStringList>("stored");
+    const QStringList untouched{u"AM|Easter|old"_s, u"PM|Easter|old night"_s};
+    QTest::newRow("the list's AM writes nothing") << u"AM"_s << untouched;
+    QTest::newRow("the list's PM writes nothing") << u"PM"_s << untouched;
+    QTest::newRow("Good Night writes the night poem") << u"Good Night"_s
+                                                      << QStringList{u"AM|Easter|old"_s, u"PM|Easter|edited"_s};
+}
+
+void TestSpecialDayReader::saveWritesOnlyForHeadingWords()
+{
+    QFETCH(QString, ampm);
+    QFETCH(QStringList, stored);
+    TestEnvironment environment;
+    insertSpecialDays({u"AM|Easter|old"_s, u"PM|Easter|old night"_s});
+    select(ampm, u"Easter"_s, u"old"_s);
+    EditSpecialDaysViewController controller;
+    controller.viewDidLoad();
+    controller.setPoemPrayerText(u"edited"_s);
+    environment.logLines.clear();
+    QSignalSpy unwinds(&Navigator::shared(), &Navigator::unwindRequested);
+
+    controller.SaveSpecialDays();
+
+    AppDelegate::shared().reset(); // read back what reached the file
+    QCOMPARE(storedDays(), stored);
+    QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
+    QCOMPARE(unwinds.size(), 1);
+    QCOMPARE(unwinds.first().first().toString(), u"unwindToSpecialDaysSegue"_s);
+}
+
+// Cover → Special Days (first visit seeds) → a day → share → back, in the real pages.
+void TestSpecialDayReader::listReaderAndBack()
+{
+    TestEnvironment environment;
+    environment.addBundleFile(u"SpecialDays.txt"_s,
+                              "[SPECIALDAYS]\r\nPM^Candlemas^Light kept@#@for the dark\r\nAM^Candlemas^Morning light\r\n");
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    importLarkwellsModule();
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, u"SpecialDaysButton"_s));
+    QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
+    QVERIFY(environment.logLines.contains(u"First Launch"_s));
+    QQuickItem *nightRow = waitForItem(window, u"row-1"_s);
+    QVERIFY(nightRow);
+    QCOMPARE(nightRow->property("dayText").toString(), u"Good Night - Candlemas"_s);
+    QVERIFY(waitForItem(window, u"section-Morning"_s));
+    QVERIFY(waitForItem(window, u"section-Night"_s));
+
+    click(window, nightRow);
+    QTRY_COMPARE(topPage(window), u"EditSpecialDaysView"_s);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QVERIFY(text);
+    QCOMPARE(text->property("text").toString(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark"_s);
+
+    // Sharing hands over the text as it stands, edits included, with no text-message gate.
+    Sharing::shared().setCanSendTextForTesting(false);
+    text->setProperty("text", text->property("text").toString() + u"\nAmen"_s);
+    click(window, waitForItem(window, u"ShareButton"_s));
+    QTRY_VERIFY(Sharing::shared().showing());
+    QCOMPARE(Sharing::shared().text(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark\nAmen"_s);
+    Sharing::shared().cancel();
+    Sharing::shared().setCanSendTextForTesting(std::nullopt);
+
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
+    QVERIFY(environment.logLines.contains(u"Back button Clicked"_s));
+    QCOMPARE(findVisibleItem(window->contentItem(), u"row-0"_s)->property("dayText").toString(),
+             u"Good Morning - Candlemas"_s);
+}
+
+QTEST_MAIN(TestSpecialDayReader)
+#include "tst_specialdayreader.moc"
