@@ -2,6 +2,7 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "PersistentContainer.h"
+#include "ProductLinks.h"
 #include "SelfTest.h"
 #include "UserDefaults.h"
 
@@ -57,6 +58,14 @@ void quitOnTerminationSignals(QGuiApplication &app)
     action.sa_flags = SA_RESTART;
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
+}
+
+// The links the app was built with, beside the version (on standard error, so that standard
+// output stays the bare version line that packaging checks read).
+void printLinks()
+{
+    std::fprintf(stderr, "store page: %s\nweb site: %s\nfeedback: %s\n", qPrintable(ProductLinks::productURL().toString()),
+                 qPrintable(ProductLinks::website().toString()), qPrintable(ProductLinks::feedbackAddress()));
 }
 
 bool onlyAsksForHelpOrVersion(int argc, char *argv[])
@@ -129,8 +138,10 @@ int main(int argc, char *argv[])
                      qPrintable(QCoreApplication::translate("main", "Try 'larkwells --help' for the options.")));
         return 2;
     }
-    if (parser.isSet(version))
+    if (parser.isSet(version)) {
+        printLinks();
         parser.showVersion();
+    }
     if (parser.isSet(help) || parser.isSet(u"help-all"_s))
         parser.showHelp();
     if (!parser.positionalArguments().isEmpty()) {

@@ -1,7 +1,9 @@
 #include "SpecialDaysExportViewController.h"
 
 #include "AppDelegate.h"
-#include "SpecialDayFileWriter.h"
+#include "Entities.h"
+#include "Log.h"
+#include "SpecialDayFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,5 +17,11 @@ SpecialDaysExportViewController::SpecialDaysExportViewController(QObject *parent
 QString SpecialDaysExportViewController::updateFileText()
 {
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    return SpecialDayFile::write(context.fetch<SpecialDay>(SpecialDay::fetchRequest()));
+    const auto written = SpecialDayFile::write(SpecialDayFile::recordsOf(context.fetch<SpecialDay>(SpecialDay::fetchRequest())));
+    // Days come from the shipped file, which cannot hold what the format cannot spell.
+    if (const auto *error = std::get_if<SpecialDayFile::WriteError>(&written)) {
+        Log::line(error->message);
+        return QString();
+    }
+    return QString::fromUtf8(std::get<QByteArray>(written));
 }

@@ -1,25 +1,23 @@
 # Sources of this subsystem, relative to src/.
 list(APPEND LARKWELLS_SOURCES
-    about/AboutFile.h about/AboutFile.cpp
-    about/AboutSeeding.h about/AboutSeeding.cpp
-    about/AboutTableViewController.h about/AboutTableViewController.cpp
     about/AboutEditViewController.h about/AboutEditViewController.cpp
-    about/AboutNewViewController.h about/AboutNewViewController.cpp
-)
-list(APPEND LARKWELLS_QML
-    about/AboutTableView.qml
-    about/AboutEditView.qml
-    about/AboutNewView.qml
+    about/AboutFile.h about/AboutFile.cpp
     about/AboutFileWriter.h about/AboutFileWriter.cpp
     about/AboutImportUndo.h about/AboutImportUndo.cpp
     about/AboutImportViewController.h about/AboutImportViewController.cpp
+    about/AboutNewViewController.h about/AboutNewViewController.cpp
+    about/AboutSeeding.h about/AboutSeeding.cpp
+    about/AboutTableViewController.h about/AboutTableViewController.cpp
     about/ExportLarkwellFilesViewController.h about/ExportLarkwellFilesViewController.cpp
     about/ExportViewController.h about/ExportViewController.cpp
     about/SpecialDaysExportViewController.h about/SpecialDaysExportViewController.cpp
     about/UpdateFileTarget.h about/UpdateFileTarget.cpp
 )
 list(APPEND LARKWELLS_QML
+    about/AboutEditView.qml
     about/AboutImportView.qml
+    about/AboutNewView.qml
+    about/AboutTableView.qml
     about/ExportLarkwellFilesView.qml
     about/ExportView.qml
     about/SpecialDaysExportView.qml

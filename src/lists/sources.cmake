@@ -7,7 +7,6 @@ list(APPEND LARKWELLS_SOURCES
     lists/SpecialDayListModel.h lists/SpecialDayListModel.cpp
     lists/SpecialDaySeeding.h lists/SpecialDaySeeding.cpp
     lists/SpecialDaysTableViewController.h lists/SpecialDaysTableViewController.cpp
-    lists/SpecialDayFileWriter.h lists/SpecialDayFileWriter.cpp
 )
 list(APPEND LARKWELLS_QML
     lists/GMNTableViewCell.qml

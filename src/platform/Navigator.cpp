@@ -22,6 +22,10 @@ Navigator::Navigator(QObject *parent)
           {u"ExportSegue"_s, u"about/ExportView.qml"_s},
           {u"ExportSpecialDaysSegue"_s, u"about/SpecialDaysExportView.qml"_s},
           {u"AboutImportSegue"_s, u"about/AboutImportView.qml"_s},
+          {u"UserDefaultsSegue"_s, u"settings/DefaultsView.qml"_s},
+          {u"ViewerWallpaperSegue"_s, u"settings/ViewerWallpaperTableView.qml"_s},
+          {u"ListWallpaperSegue"_s, u"settings/ListWallpaperTableView.qml"_s},
+          {u"SettingsSegue"_s, u"settings/SettingsView.qml"_s},
       }
 {
 }

@@ -7,6 +7,7 @@ list(APPEND LARKWELLS_SOURCES
     platform/FatalError.h platform/FatalError.cpp
     platform/Fonts.h platform/Fonts.cpp
     platform/Log.h platform/Log.cpp
+    platform/Mail.h platform/Mail.cpp
     platform/Navigator.h platform/Navigator.cpp
     platform/ReviewRequest.h platform/ReviewRequest.cpp
     platform/Sharing.h platform/Sharing.cpp

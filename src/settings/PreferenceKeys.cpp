@@ -62,6 +62,13 @@ std::optional<double> Preferences::doubleIfPresent(const PreferenceKey &key)
     return UserDefaults::standard().doubleForKey(key.name);
 }
 
+std::optional<QVariant> Preferences::numberIfPresent(const PreferenceKey &key)
+{
+    if (!checkedType(key, {Type::Double, Type::Integer}, "a number"))
+        return std::nullopt;
+    return UserDefaults::standard().object(key.name);
+}
+
 std::optional<QString> Preferences::stringIfPresent(const PreferenceKey &key)
 {
     if (!checkedType(key, {Type::String}, "a string"))

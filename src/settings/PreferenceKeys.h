@@ -42,6 +42,8 @@ namespace Preferences {
 std::optional<qint64> integerIfPresent(const PreferenceKey &key);
 std::optional<double> doubleIfPresent(const PreferenceKey &key);
 std::optional<QString> stringIfPresent(const PreferenceKey &key);
+// A number as stored: a qint64 when written whole, else a double.
+std::optional<QVariant> numberIfPresent(const PreferenceKey &key);
 bool boolForKey(const PreferenceKey &key);
 // The stored value, or the key's absent value.
 qint64 integerOrAbsent(const PreferenceKey &key);

@@ -4,6 +4,9 @@
 
 #include <QRandomGenerator>
 
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -33,16 +36,32 @@ int Wallpapers::systemUniform(int bound)
     return int(QRandomGenerator::global()->bounded(quint32(bound)));
 }
 
+bool Wallpapers::inUse(const QString &name)
+{
+    const QVariant value = UserDefaults::standard().object(name);
+    return value.typeId() == QMetaType::QString && value.toString() == u"true"_s;
+}
+
+bool Wallpapers::noneInUse(const QStringList &names)
+{
+    const UserDefaults &defaults = UserDefaults::standard();
+    return std::all_of(names.begin(), names.end(),
+                       [&](const QString &name) { return defaults.contains(name) && !inUse(name); });
+}
+
 int Wallpapers::draw(const QStringList &names, int firstBound, int start, const Uniform &uniform)
 {
     const UserDefaults &defaults = UserDefaults::standard();
     int r = uniform(firstBound);
+    bool checked = false;
     for (;;) {
-        const QVariant value = defaults.object(names.value(r));
-        if (!value.isValid())
+        const QString &name = names.value(r);
+        if (!defaults.contains(name))
             return start;
-        if (value.typeId() == QMetaType::QString && value.toString() == u"true"_s)
+        if (inUse(name))
             return r;
+        if (!std::exchange(checked, true) && noneInUse(names.mid(0, 34)))
+            return NoWallpaper;
         r = uniform(34);
     }
 }

@@ -13,36 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-QQuickItem *waitForItem(QQuickWindow *window, const QString &name)
-{
-    QQuickItem *item = nullptr;
-    QTest::qWaitFor([&] {
-        item = findVisibleItem(window->contentItem(), name);
-        return item && item->width() > 0 && item->height() > 0;
-    }, 15000);
-    return item;
-}
-
-void click(QQuickWindow *window, QQuickItem *item)
-{
-    QVERIFY(item);
-    QTest::mouseClick(window, Qt::LeftButton, {}, item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
-}
-
-QQuickItem *topPage(QQuickWindow *window)
-{
-    auto *stack = findItem(window->contentItem(), u"stack"_s);
-    if (!stack || stack->property("busy").toBool())
-        return nullptr;
-    return stack->property("currentItem").value<QQuickItem *>();
-}
-
-QString topPageName(QQuickWindow *window)
-{
-    QQuickItem *page = topPage(window);
-    return page ? page->objectName() : QString();
-}
-
 QStringList articleNames()
 {
     const auto container = loadedContainer();
@@ -90,9 +60,9 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
 
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"ResetButton"_s));
-    QTRY_COMPARE(topPageName(window), u"ExportLarkwellFilesView"_s);
+    QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
     click(window, waitForItem(window, u"PoemPrayerButton"_s));
-    QTRY_COMPARE(topPageName(window), u"ExportView"_s);
+    QTRY_COMPARE(topPage(window), u"ExportView"_s);
     QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
     click(window, exportButton);
     QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ExportTextView"_s)->property("text").toString(),
@@ -102,15 +72,15 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     click(window, waitForItem(window, u"ExportTextViewBlock0"_s));
     QTest::keyClick(window, Qt::Key_End);
     QTest::keyClick(window, '!');
-    QObject *exportController = topPage(window)->property("controller").value<QObject *>();
+    QObject *exportController = currentScreen(window)->property("controller").value<QObject *>();
     QTRY_COMPARE(exportController->property("ExportTextView").toString(), u"[POEMPRAYER]!\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
     QVERIFY(waitForItem(window, u"SaveButton"_s)->isEnabled());
 
     click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPageName(window), u"ExportLarkwellFilesView"_s);
+    QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
     click(window, waitForItem(window, u"AboutButton"_s));
-    QTRY_COMPARE(topPageName(window), u"AboutImportView"_s);
-    QObject *picker = topPage(window)->findChild<QObject *>(u"documentPicker"_s);
+    QTRY_COMPARE(topPage(window), u"AboutImportView"_s);
+    QObject *picker = currentScreen(window)->findChild<QObject *>(u"documentPicker"_s);
     QVERIFY(picker);
     QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
     QVERIFY(!waitForItem(window, u"ImportButton"_s)->isEnabled());

@@ -105,10 +105,16 @@ void click(QQuickWindow *window, QQuickItem *item)
     QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
 }
 
-QString topPage(QQuickWindow *window)
+QQuickItem *currentScreen(QQuickWindow *window)
 {
     auto *stack = findItem(window->contentItem(), QStringLiteral("stack"));
     if (!stack || stack->property("busy").toBool())
-        return QString();
-    return stack->property("currentItem").value<QQuickItem *>()->objectName();
+        return nullptr;
+    return stack->property("currentItem").value<QQuickItem *>();
+}
+
+QString topPage(QQuickWindow *window)
+{
+    QQuickItem *screen = currentScreen(window);
+    return screen ? screen->objectName() : QString();
 }

@@ -39,5 +39,7 @@ class QQuickWindow;
 QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName);
 // A mouse click at the item's centre.
 void click(QQuickWindow *window, QQuickItem *item);
+// The screen on top, once the stack has stopped moving; null while it moves.
+QQuickItem *currentScreen(QQuickWindow *window);
 // The object name of the screen on top, once the stack has stopped moving; empty while it moves.
 QString topPage(QQuickWindow *window);

@@ -1,0 +1,9 @@
+import QtQuick
+import Larkwells
+
+// The wallpapers behind the readers' text.
+WallpaperTableView {
+    objectName: "ViewerWallpaperTableView"
+    outletPrefix: "Viewer"
+    controller: ViewerWallpaperTableViewController {}
+}
