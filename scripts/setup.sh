@@ -12,6 +12,8 @@ packages=(
   qt6-tools-dev qt6-l10n-tools libgl-dev libfontconfig-dev
   # tests: Qt Quick Test, a real window without a display, benchmarks
   qml6-module-qttest xvfb xauth libbenchmark-dev
+  # tests: a screen reader's view of the running application (AT-SPI over a session bus)
+  python3-pyatspi dbus at-spi2-core
   # packaging: shared-library dependencies of the .deb, and the two validators
   dpkg-dev desktop-file-utils appstream
 )

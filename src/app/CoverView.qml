@@ -59,6 +59,7 @@ Page {
             color: "black"
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
         }
         background: Rectangle {
             radius: Theme.cornerRadius
@@ -72,19 +73,38 @@ Page {
     }
 
     Flickable {
+        id: menu
+        objectName: "MenuScroller"
+        // Centred on a portrait screen; on a wide one, beside the whole picture so its title
+        // stays in view.
+        readonly property bool wide: root.width > root.height
         anchors.top: controlButton.bottom
         anchors.topMargin: 12
         anchors.bottom: parent.bottom
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(root.width - 32, 320)
+        x: wide ? root.width - width - 16 : (root.width - width) / 2
+        width: wide ? Math.max(200, Math.min(320, (root.width - img.width) / 2 - 32))
+                    : Math.min(root.width - 32, 320)
         contentHeight: menuButtons.height + 24
         interactive: contentHeight > height
         clip: true
+        // A menu taller than the screen shows that it scrolls.
+        ScrollBar.vertical: ScrollBar {
+            policy: menu.interactive ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded
+        }
+
+        // Keyboard focus on a button out of view scrolls it in.
+        function reveal(item: Item) {
+            const top = item.mapToItem(menuButtons, 0, 0).y
+            if (top < contentY)
+                contentY = top
+            else if (top + item.height > contentY + height)
+                contentY = Math.min(contentHeight - height, top + item.height - height + 12)
+        }
 
         Column {
             id: menuButtons
             objectName: "MenuButtons"
-            width: parent.width
+            width: parent.width - (menu.interactive ? 12 : 0) // room for the scroll bar
             spacing: controller.menuOpen ? 10 : 0
             Behavior on spacing { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 
@@ -95,6 +115,7 @@ Page {
                 objectName: "TodayButton"
                 width: parent.width
                 shown: controller.menuOpen
+                onFocusedByKeyboard: item => menu.reveal(item)
                 text: qsTr("Today")
                 enabled: menuButtons.listReady
                 onClicked: controller.TodayButtonClicked()
@@ -103,6 +124,7 @@ Page {
                 objectName: "GoodMorningButton"
                 width: parent.width
                 shown: controller.menuOpen
+                onFocusedByKeyboard: item => menu.reveal(item)
                 text: qsTr("Good Morning")
                 enabled: menuButtons.listReady
                 onClicked: controller.GoodMorningButtonClicked()
@@ -111,6 +133,7 @@ Page {
                 objectName: "GoodNightButton"
                 width: parent.width
                 shown: controller.menuOpen
+                onFocusedByKeyboard: item => menu.reveal(item)
                 text: qsTr("Good Night")
                 enabled: menuButtons.listReady
                 onClicked: controller.GoodNightButtonClicked()
@@ -120,6 +143,7 @@ Page {
                 objectName: "FavoritesButton"
                 width: parent.width
                 shown: controller.menuOpen
+                onFocusedByKeyboard: item => menu.reveal(item)
                 text: qsTr("Favorites")
                 enabled: menuButtons.listReady
                 onClicked: controller.FavoriteButtonClicked()
@@ -140,6 +164,7 @@ Page {
                     required property var modelData
                     objectName: modelData.outlet
                     width: menuButtons.width
+                    onFocusedByKeyboard: item => menu.reveal(item)
                     text: modelData.title
                     shown: controller.menuOpen
                            && !(modelData.outlet === "ImportExportButton" && controller.ImportExportButtonHidden)

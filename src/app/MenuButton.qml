@@ -6,6 +6,9 @@ import Larkwells
 Button {
     id: button
     property bool shown: false
+    // Keyboard focus arrived: the menu scrolls this button into view.
+    signal focusedByKeyboard(Item item)
+    onActiveFocusChanged: if (activeFocus) focusedByKeyboard(button)
 
     implicitWidth: 280
     topInset: 0
@@ -25,6 +28,7 @@ Button {
         color: button.enabled ? "black" : "#7a8080"
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true // the button carries the name (and a closed menu lists neither)
     }
     background: Rectangle {
         radius: Theme.cornerRadius

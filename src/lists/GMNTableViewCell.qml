@@ -46,6 +46,8 @@ ListCell {
         FavoriteBox {
             Layout.alignment: Qt.AlignVCenter
             interactive: cell.favoriteInteractive
+            // Tab reaches the box of the current row only, then leaves the list.
+            activeFocusOnTab: interactive && cell.ListView.isCurrentItem
             checked: cell.favoriteChecked
             fontFamily: cell.fontName
             fontSize: Math.min(cell.fontSize, 15)

@@ -24,7 +24,8 @@ Page {
             anchors.centerIn: parent
             model: controller.segmentTitles
             currentIndex: controller.segmentIndex
-            segmentWidth: Math.min(68, (root.width - 120) / 5)
+            segmentWidth: Math.floor(Math.min(68, (root.width - 120) / 5))
+            fontSize: segmentWidth < 56 ? 13 : 15 // "Today" whole on a small phone
             onActivated: index => controller.segmentedControlAction(index)
         }
     }

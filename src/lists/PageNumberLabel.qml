@@ -27,6 +27,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         Label {
             id: prefixLabel
+            objectName: "PageWords"
             width: pageLabel.number ? Math.min(prefixWidth.advanceWidth, pageLabel.width - numberWidth.advanceWidth) : implicitWidth
             text: pageLabel.text.slice(0, pageLabel.text.length - pageLabel.number.length)
             color: "black"

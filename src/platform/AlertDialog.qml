@@ -30,6 +30,13 @@ Dialog {
         onTriggered: dialog.follow()
     }
     title: Alerts.title
+    // A plain card: the style's soft shadow left scraps behind on small windows.
+    background: Rectangle {
+        radius: 4
+        color: "white"
+        border.width: 1
+        border.color: "#9a9a9a"
+    }
     width: Math.min(parent ? parent.width - 48 : 360, 420)
 
     contentItem: Label {

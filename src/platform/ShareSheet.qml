@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Dialogs
 import QtQuick.Layouts
 import Larkwells
 
@@ -18,6 +17,15 @@ Drawer {
     onOpened: Sharing.sheetPresented()
     onClosed: if (Sharing.showing) Sharing.cancel()
     background: Rectangle { color: Theme.cellColor }
+    // The file dialogs, loaded when wanted; a test may point these elsewhere.
+    property url saveDialogSource: Qt.resolvedUrl("SaveTextDialog.qml")
+    property url copyDialogSource: Qt.resolvedUrl("SaveCopyDialog.qml")
+
+    // A fresh dialog each time; it opens as soon as it is made.
+    function openDialog(loader: Loader) {
+        loader.active = false
+        loader.active = true
+    }
 
     contentItem: ColumnLayout {
         spacing: 0
@@ -56,21 +64,22 @@ Drawer {
                 objectName: "share-" + modelData.name
                 Layout.fillWidth: true
                 readonly property bool forFile: modelData.name === "savecopy" || modelData.name === "openwith"
-                // Asking the desktop for a text-message handler waits until the sheet is wanted.
+                // Asking the desktop for a handler waits until the sheet is wanted.
                 visible: modelData.name === "cancel" || (forFile === Sharing.sharesFile
-                         && (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText)))
+                         && (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText))
+                         && (modelData.name !== "mail" || (Sharing.showing && Sharing.canSendMail)))
                 text: modelData.title
                 font.pixelSize: 17
                 font.bold: modelData.name === "cancel"
                 Accessible.name: text
-                Accessible.onPressAction: clicked()
+                Accessible.onPressAction: if (visible && enabled) clicked()
                 onClicked: {
                     switch (modelData.name) {
                     case "copy": Sharing.copyToClipboard(); break
-                    case "file": saveDialog.open(); break
+                    case "file": sheet.openDialog(saveDialog); break
                     case "mail": Sharing.email(); break
                     case "sms": Sharing.textMessage(); break
-                    case "savecopy": copyDialog.open(); break
+                    case "savecopy": sheet.openDialog(copyDialog); break
                     case "openwith": Sharing.openWith(); break
                     default: Sharing.cancel()
                     }
@@ -79,21 +88,23 @@ Drawer {
         }
     }
 
-    FileDialog {
-        id: saveDialog
-        title: qsTr("Save as Text File")
-        fileMode: FileDialog.SaveFile
-        defaultSuffix: "txt"
-        nameFilters: [qsTr("Text files (*.txt)")]
-        onAccepted: Sharing.saveToFile(selectedFile)
+    // A dialog whose QML module is missing is reported, never a crash.
+    component DialogLoader: Loader {
+        Layout.preferredHeight: 0
+        active: false
+        onStatusChanged: {
+            if (status !== Loader.Error)
+                return
+            active = false
+            Sharing.saveDialogUnavailable("Qt.labs.folderlistmodel")
+        }
     }
-
-    FileDialog {
+    DialogLoader {
+        id: saveDialog
+        source: sheet.saveDialogSource
+    }
+    DialogLoader {
         id: copyDialog
-        title: qsTr("Save a Copy")
-        fileMode: FileDialog.SaveFile
-        currentFolder: Sharing.documentsFolder
-        selectedFile: Sharing.suggestedCopy
-        onAccepted: Sharing.saveCopy(selectedFile)
+        source: sheet.copyDialogSource
     }
 }

@@ -122,7 +122,12 @@ void Sharing::email()
     query.addQueryItem(u"subject"_s, u"The Larkwells Book"_s);
     query.addQueryItem(u"body"_s, QString::fromUtf8(QUrl::toPercentEncoding(text())));
     mail.setQuery(query);
-    dismiss(QDesktopServices::openUrl(mail));
+    // A mail client that does not start is told, and the sheet stays for another choice.
+    if (!QDesktopServices::openUrl(mail)) {
+        Alerts::shared().presentAsync({u"Sending Email"_s, u"Email not Setup or Unavailable"_s, {u"OK"_s}, {}});
+        return;
+    }
+    dismiss(true);
 }
 
 void Sharing::textMessage()
@@ -139,6 +144,11 @@ void Sharing::textMessage()
 void Sharing::cancel()
 {
     dismiss(false);
+}
+
+void Sharing::saveDialogUnavailable(const QString &reason)
+{
+    Q_EMIT failed(u"Files cannot be saved here: the file dialog is not installed (%1)."_s.arg(reason));
 }
 
 void MessageComposer::messageComposeViewControllerDidFinish(Sharing &sharing, Result result)

@@ -17,6 +17,7 @@ class Sharing : public QObject
     Q_PROPERTY(bool showing READ showing NOTIFY showingChanged)
     Q_PROPERTY(QString text READ text NOTIFY showingChanged)
     Q_PROPERTY(bool canSendText READ canSendText CONSTANT)
+    Q_PROPERTY(bool canSendMail READ canSendMail CONSTANT)
     Q_PROPERTY(bool sharesFile READ sharesFile NOTIFY showingChanged)
     Q_PROPERTY(QString fileName READ fileName NOTIFY showingChanged)
     Q_PROPERTY(QUrl suggestedCopy READ suggestedCopy NOTIFY showingChanged)
@@ -72,6 +73,8 @@ public:
     Q_INVOKABLE void saveCopy(const QUrl &target);
     Q_INVOKABLE void openWith();
     Q_INVOKABLE void cancel();
+    // The file dialog could not be loaded (its QML module is missing).
+    Q_INVOKABLE void saveDialogUnavailable(const QString &reason);
     // Closes the sheet, reporting whether an activity was completed.
     void dismiss(bool completed);
 

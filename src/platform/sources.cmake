@@ -15,5 +15,7 @@ list(APPEND LARKWELLS_SOURCES
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
+    platform/SaveCopyDialog.qml
+    platform/SaveTextDialog.qml
     platform/ShareSheet.qml
 )

@@ -29,4 +29,7 @@ ItemDelegate {
     }
     Accessible.ignored: !visible
     Accessible.onPressAction: if (cell.visible && cell.enabled) cell.clicked()
+    // Space opens a focused row as any button does; Enter and Return too, as in a list.
+    Keys.onReturnPressed: cell.clicked()
+    Keys.onEnterPressed: cell.clicked()
 }

@@ -43,7 +43,10 @@ FocusScope {
         Repeater {
             id: repeater
             model: control.model
-            delegate: AbstractButton {
+            // A tab button, so a screen reader hears tabs: a plain button's role is reset to
+            // "push button" when the accessibility bus connects. Never checkable: the shown
+            // choice follows currentIndex only.
+            delegate: TabButton {
                 id: segment
                 required property string modelData
                 required property int index
@@ -54,6 +57,9 @@ FocusScope {
                 width: control.segmentWidth
                 height: control.height
                 focusPolicy: Qt.NoFocus
+                checkable: false
+                leftPadding: 2
+                rightPadding: 2
                 text: modelData
                 contentItem: Label {
                     text: segment.text
@@ -62,6 +68,7 @@ FocusScope {
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                     elide: Text.ElideRight
+                    Accessible.ignored: true
                 }
                 background: Item {
                     // Only the end segments round their outer corners, so the pill has no seams.

@@ -9,15 +9,27 @@ ListView {
     id: table
     property string emptyText
     property int chosenRow: -1
+    property real rowOffset: 0
     // The row the user opened; the screen calls this before it opens the row.
     function remember(row: int) {
         chosenRow = row
+        rowOffset = offsetInView(itemAtIndex(row))
         currentIndex = row
     }
-    // Back on the screen: the opened row stays where the reader left it, and in view.
+    // Left to the interpreter: the compiled form of this lookup misreads a delegate's y.
+    function offsetInView(item) {
+        return item ? item.y - contentY : 0
+    }
+    // Back on the screen (after a reload): the opened row where it was on the screen, so the
+    // list looks as the reader left it.
     function restore() {
-        if (chosenRow >= 0 && chosenRow < count)
-            positionViewAtIndex(chosenRow, ListView.Contain)
+        if (chosenRow < 0 || chosenRow >= count)
+            return
+        forceLayout()
+        currentIndex = chosenRow
+        positionViewAtIndex(chosenRow, ListView.Beginning)
+        contentY = Math.max(originY, Math.min(contentY - rowOffset, originY + contentHeight - height))
+        positionViewAtIndex(chosenRow, ListView.Contain)
     }
 
     anchors.margins: 6
@@ -33,6 +45,8 @@ ListView {
     Accessible.role: Accessible.List
 
     onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+    // The arrow keys move the current row; the list follows it (there is no highlight to follow).
+    onCurrentIndexChanged: if (activeFocus && currentIndex >= 0) positionViewAtIndex(currentIndex, ListView.Contain)
     Keys.onReturnPressed: openCurrent()
     Keys.onEnterPressed: openCurrent()
     Keys.onSpacePressed: openCurrent()

@@ -1,10 +1,13 @@
 #include "Alerts.h"
 #include "CoverViewController.h"
+#include "FatalError.h"
+#include "Navigator.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
+#include <QAccessible>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -24,7 +27,38 @@ private Q_SLOTS:
     void reviewPromptCountsPageOpenings_data();
     void reviewPromptCountsPageOpenings();
     void coverPageOpensAndClosesItsMenu();
+    void screenReaderPressesOnlyWhatIsShown();
+    void segueWithoutScreenStopsNamingIt();
+    void smallPhoneMenuScrollsToItsLastButton();
 };
+
+namespace {
+// The cover window with the first-launch advice answered.
+QQuickWindow *openCover(QQmlApplicationEngine &engine)
+{
+    importLarkwellsModule();
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    if (!window || !QTest::qWaitForWindowExposed(window))
+        return nullptr;
+    auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
+    if (!QTest::qWaitFor([&] { return dialog->property("opened").toBool(); }))
+        return nullptr;
+    Alerts::shared().dismiss(0);
+    return QTest::qWaitFor([&] { return !dialog->property("visible").toBool(); }) ? window : nullptr;
+}
+
+// Presses as a screen reader does; false when the item offers no press at all.
+bool pressAsScreenReader(QQuickItem *item)
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
+    if (!accessible || !accessible->actionInterface())
+        return false;
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    return true;
+}
+}
 
 void TestCover::controlButtonFlipsTheMenu()
 {
@@ -110,6 +144,91 @@ void TestCover::coverPageOpensAndClosesItsMenu()
         QTRY_COMPARE(today->isVisible(), open);
         QTRY_COMPARE(today->height() > 40, open); // the 0.3 s slide has run
         QVERIFY(!importExport->isVisible());
+    }
+}
+
+// Every menu button, the always hidden one too, pressed through the accessibility interface with
+// the menu closed and open: hidden and disabled buttons refuse, shown ones open their screen,
+// and no press ends the application.
+void TestCover::screenReaderPressesOnlyWhatIsShown()
+{
+    TestEnvironment environment;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openCover(engine);
+    QVERIFY(window);
+    auto *stack = findItem(window->contentItem(), u"stack"_s);
+    auto *control = findItem(window->contentItem(), u"ControlButton"_s);
+    QVERIFY(stack && control);
+    const QStringList buttons{u"TodayButton"_s, u"GoodMorningButton"_s, u"GoodNightButton"_s,
+                              u"FavoritesButton"_s, u"SpecialDaysButton"_s, u"SearchButton"_s,
+                              u"NotesButton"_s, u"AboutButton"_s, u"UserDefaultsButton"_s,
+                              u"RateShareButton"_s, u"ImportExportButton"_s, u"ResetButton"_s};
+    int opened = 0;
+    for (const bool open : {false, true}) {
+        if (open) {
+            QVERIFY(pressAsScreenReader(control));
+            QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
+        }
+        for (const QString &name : buttons) {
+            auto *button = findItem(window->contentItem(), name);
+            QVERIFY2(button, qPrintable(name));
+            const bool pressable = button->isVisible() && button->isEnabled();
+            if (!open || name == u"ImportExportButton"_s)
+                QVERIFY2(!pressable, qPrintable(name));
+            opened += pressable;
+            try {
+                pressAsScreenReader(button);
+            } catch (const FatalErrorException &stop) {
+                QFAIL(qPrintable(name + u" ended the application: "_s + stop.message()));
+            }
+            QTRY_COMPARE(stack->property("depth").toInt(), pressable ? 2 : 1);
+            if (pressable) {
+                Navigator::shared().popToRoot();
+                QTRY_COMPARE(stack->property("depth").toInt(), 1);
+                if (!findItem(window->contentItem(), u"TodayButton"_s)->isVisible()) {
+                    QVERIFY(pressAsScreenReader(control)); // leaving closed the menu
+                    QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
+                }
+            }
+        }
+    }
+    QVERIFY(opened >= 4); // the four list buttons at least
+}
+
+// On a 360x640 phone the open menu is taller than the screen: it scrolls far enough to show its
+// last button.
+void TestCover::smallPhoneMenuScrollsToItsLastButton()
+{
+    TestEnvironment environment;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openCover(engine);
+    QVERIFY(window);
+    window->resize(360, 640);
+    QVERIFY(pressAsScreenReader(findItem(window->contentItem(), u"ControlButton"_s)));
+    auto *menu = findItem(window->contentItem(), u"MenuScroller"_s);
+    auto *last = findItem(window->contentItem(), u"ResetButton"_s);
+    QVERIFY(menu && last);
+    QTRY_VERIFY(last->height() > 40);
+    QTRY_COMPARE(window->contentItem()->height(), 640.0);
+    const auto inView = [&] {
+        const QRectF shown = last->mapRectToItem(menu, last->boundingRect());
+        return shown.top() >= 0 && shown.bottom() <= menu->height();
+    };
+    QTRY_VERIFY(menu->property("interactive").toBool());
+    QTRY_VERIFY(!inView());
+    // Flicked to the end, as far as the menu lets a finger take it.
+    menu->setProperty("contentY", menu->property("contentHeight").toDouble() - menu->height());
+    QTRY_VERIFY(inView());
+}
+
+void TestCover::segueWithoutScreenStopsNamingIt()
+{
+    TestEnvironment environment;
+    try {
+        Navigator::shared().performSegue(u"ImportExportSegue"_s);
+        QFAIL("a segue without a screen must stop the application");
+    } catch (const FatalErrorException &stop) {
+        QCOMPARE(stop.message(), u"Fatal error: no screen for the segue \"ImportExportSegue\""_s);
     }
 }
 

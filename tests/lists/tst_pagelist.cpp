@@ -149,9 +149,13 @@ void TestPageList::faultsAreFatal_data()
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("listFont");
     QTest::addColumn<bool>("choose");
-    QTest::newRow("page without a date") << u"-|AM|1|1|1|T|t"_s << u"Arial"_s << false;
-    QTest::newRow("unknown list font") << u"d|AM|1|1|1|T|t"_s << u"No Such Family Anywhere"_s << false;
-    QTest::newRow("chosen page without a time of day") << u"d|-|1|1|1|T|t"_s << u"Arial"_s << true;
+    QTest::addColumn<QString>("message");
+    QTest::newRow("page without a date") << u"-|AM|1|1|1|T|t"_s << u"Arial"_s << false
+                                         << u"Fatal error: page 1 has no date text"_s;
+    QTest::newRow("unknown list font") << u"d|AM|1|1|1|T|t"_s << u"No Such Family Anywhere"_s << false
+                                       << u"Fatal error: the font \"No Such Family Anywhere\" is not known on this system"_s;
+    QTest::newRow("chosen page without a time of day") << u"d|-|1|1|1|T|t"_s << u"Arial"_s << true
+                                                       << u"Fatal error: the chosen page has no time of day"_s;
 }
 
 void TestPageList::faultsAreFatal()
@@ -170,7 +174,9 @@ void TestPageList::faultsAreFatal()
         if (choose)
             controller.didSelectRowAt(0);
         QFAIL("expected a fatal stop");
-    } catch (const FatalErrorException &) {
+    } catch (const FatalErrorException &stop) {
+        QFETCH(QString, message);
+        QCOMPARE(stop.message(), message);
     }
 }
 

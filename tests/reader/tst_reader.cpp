@@ -91,30 +91,32 @@ void TestReader::composesHeadingDateAndText()
 void TestReader::appearanceFromPreferences_data()
 {
     QTest::addColumn<QVariantMap>("preferences");
-    QTest::addColumn<bool>("fatal");
+    QTest::addColumn<QString>("fatal"); // the stop's message, empty for none
     QTest::addColumn<bool>("styled");
     QTest::addColumn<QColor>("color");
     QTest::addColumn<double>("size");
     QTest::addColumn<QString>("wallpaper");
-    QTest::newRow("defaults") << QVariantMap() << false << true << QColor(Qt::black) << 15.0 << QString();
+    QTest::newRow("defaults") << QVariantMap() << QString() << true << QColor(Qt::black) << 15.0 << QString();
     QTest::newRow("blue, larger, with wallpaper")
         << QVariantMap{{u"textColor"_s, 3}, {u"ReaderFontSize"_s, 21.0}, {u"useWallpaper"_s, 1},
                        {u"FontName"_s, u"EB Garamond"_s}}
-        << false << true << QColor(Qt::blue) << 21.0 << u"Page1.jpg"_s;
-    QTest::newRow("whole size stored as integer") << QVariantMap{{u"ReaderFontSize"_s, 17}} << false << true
+        << QString() << true << QColor(Qt::blue) << 21.0 << u"Page1.jpg"_s;
+    QTest::newRow("whole size stored as integer") << QVariantMap{{u"ReaderFontSize"_s, 17}} << QString() << true
                                                   << QColor(Qt::black) << 17.0 << QString();
-    QTest::newRow("colour code 7 keeps the laid-out text view") << QVariantMap{{u"textColor"_s, 7}} << false << false
+    QTest::newRow("colour code 7 keeps the laid-out text view") << QVariantMap{{u"textColor"_s, 7}} << QString() << false
                                                                 << QColor(Qt::black) << 15.0 << QString();
-    QTest::newRow("unknown font") << QVariantMap{{u"FontName"_s, u"Nowhere Sans Imaginary"_s}} << true << false
+    QTest::newRow("unknown font") << QVariantMap{{u"FontName"_s, u"Nowhere Sans Imaginary"_s}}
+                                  << u"Fatal error: the font \"Nowhere Sans Imaginary\" is not known on this system"_s << false
                                   << QColor() << 0.0 << QString();
-    QTest::newRow("colour stored as text") << QVariantMap{{u"textColor"_s, u"2"_s}} << true << false << QColor()
+    QTest::newRow("colour stored as text") << QVariantMap{{u"textColor"_s, u"2"_s}}
+                                           << u"Fatal error: the setting \"textColor\" holds a value that is not an integer"_s << false << QColor()
                                            << 0.0 << QString();
 }
 
 void TestReader::appearanceFromPreferences()
 {
     QFETCH(QVariantMap, preferences);
-    QFETCH(bool, fatal);
+    QFETCH(QString, fatal);
     QFETCH(bool, styled);
     QFETCH(QColor, color);
     QFETCH(double, size);
@@ -126,11 +128,11 @@ void TestReader::appearanceFromPreferences()
     ViewController controller;
     try {
         controller.viewDidLoad();
-    } catch (const FatalErrorException &) {
-        QVERIFY(fatal);
+    } catch (const FatalErrorException &stop) {
+        QCOMPARE(stop.message(), fatal);
         return;
     }
-    QVERIFY(!fatal);
+    QVERIFY(fatal.isEmpty());
     QCOMPARE(controller.appearance()->styled(), styled);
     QCOMPARE(controller.PoemPrayerText().isEmpty(), !styled);
     if (styled) {
