@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QTest>
 
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void unsetValuesReadAsAbsentOrZero();
     void saveContextOnlyWhenChanged();
     void unopenableStoreIsFatal();
+    void olderStoreIsUpgradedWithItsRows();
 };
 
 void TestStore::fetchesFilterAndSort_data()
@@ -205,6 +207,59 @@ void TestStore::unopenableStoreIsFatal()
         QVERIFY2(error.message().startsWith(u"Unresolved error "_s), qPrintable(error.message()));
         QVERIFY2(error.message().contains(u", {"_s), qPrintable(error.message()));
     }
+}
+
+// A store written by the first version (no lookup indexes) opens in this one, rows intact.
+void TestStore::olderStoreIsUpgradedWithItsRows()
+{
+    TestEnvironment environment;
+    const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"first-version"_s);
+        db.setDatabaseName(path);
+        QVERIFY(db.open());
+        QSqlQuery query(db);
+        for (const QString &statement :
+             {u"CREATE TABLE PoemPrayer (id INTEGER PRIMARY KEY, ampm TEXT, day INTEGER, dt TEXT, favorite TEXT, "
+              "month INTEGER, pagenum INTEGER, poemprayer TEXT)"_s,
+              u"CREATE TABLE Notes (id INTEGER PRIMARY KEY, ampm TEXT, day INTEGER, dt TEXT, dtstring TEXT, "
+              "month INTEGER, notes TEXT, subject TEXT, year INTEGER)"_s,
+              u"CREATE TABLE SpecialDay (id INTEGER PRIMARY KEY, ampm TEXT, dayname TEXT, poemprayer TEXT)"_s,
+              u"CREATE TABLE About (id INTEGER PRIMARY KEY, aboutText TEXT, name TEXT)"_s,
+              u"CREATE INDEX PoemPrayerDay ON PoemPrayer (month, day, ampm)"_s,
+              u"INSERT INTO PoemPrayer VALUES (1, 'AM', 2, 'January 2', 'T', 1, 3, 'Kept')"_s,
+              u"INSERT INTO Notes (subject, notes, year) VALUES ('Mine', 'every word', 2025)"_s,
+              u"PRAGMA user_version = 1"_s})
+            QVERIFY2(query.exec(statement), qPrintable(query.lastError().text()));
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(u"first-version"_s);
+
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    const QList<PoemPrayer *> pages = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
+    QCOMPARE(pages.size(), 1);
+    QCOMPARE(pages.first()->favorite(), u"T"_s);
+    QCOMPARE(pages.first()->poemprayer(), u"Kept"_s);
+    const QList<Notes *> notes = context.fetch<Notes>(Notes::fetchRequest());
+    QCOMPARE(notes.size(), 1);
+    QCOMPARE(notes.first()->notes(), u"every word"_s);
+    QCOMPARE(notes.first()->year(), 2025);
+    AppDelegate::shared().reset();
+
+    QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"inspect"_s);
+    db.setDatabaseName(path);
+    QVERIFY(db.open());
+    {
+        QSqlQuery query(db);
+        QVERIFY(query.exec(u"PRAGMA user_version"_s) && query.next());
+        QCOMPARE(query.value(0).toInt(), 2);
+        QVERIFY(query.exec(u"SELECT count(*) FROM sqlite_master WHERE type = 'index' AND name IN "
+                           "('PoemPrayerDate', 'SpecialDayName', 'AboutName')"_s) && query.next());
+        QCOMPARE(query.value(0).toInt(), 3);
+    }
+    db.close();
+    db = QSqlDatabase();
+    QSqlDatabase::removeDatabase(u"inspect"_s);
 }
 
 QTEST_GUILESS_MAIN(TestStore)

@@ -34,6 +34,12 @@ const QList<QStringList> migrations{
         u"CREATE TABLE \"About\" (id INTEGER PRIMARY KEY, \"aboutText\" TEXT, \"name\" TEXT)"_s,
         u"CREATE INDEX PoemPrayerDay ON \"PoemPrayer\" (\"month\", \"day\", \"ampm\")"_s,
     },
+    // The lookups by name that seeding, saving and importing make for every line they read.
+    {
+        u"CREATE INDEX PoemPrayerDate ON \"PoemPrayer\" (\"dt\", \"ampm\")"_s,
+        u"CREATE INDEX SpecialDayName ON \"SpecialDay\" (\"dayname\", \"ampm\")"_s,
+        u"CREATE INDEX AboutName ON \"About\" (\"name\")"_s,
+    },
 };
 }
 
