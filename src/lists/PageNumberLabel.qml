@@ -3,15 +3,18 @@ import QtQuick.Controls
 import Larkwells
 
 // A row's "Good Morning:   Page#  12" label, in two columns so that the numbers line up row
-// under row whatever the font.
+// under row whatever the font. Where the two columns do not fit (a large list font on a phone)
+// the label wraps, centred, and keeps every word.
 Item {
     id: pageLabel
     required property string text
     property string fontName
     property real fontSize: 15
     readonly property string number: (text.match(/\d+$/) || [""])[0]
+    readonly property bool inColumns: number.length > 0
+                                      && prefixWidth.advanceWidth + numberWidth.advanceWidth <= width
 
-    implicitHeight: prefixLabel.implicitHeight
+    implicitHeight: inColumns ? prefixLabel.implicitHeight : wrapped.implicitHeight
 
     TextMetrics {
         id: prefixWidth
@@ -25,24 +28,35 @@ Item {
     }
     Row {
         anchors.horizontalCenter: parent.horizontalCenter
+        visible: pageLabel.inColumns
         Label {
             id: prefixLabel
             objectName: "PageWords"
-            width: pageLabel.number ? Math.min(prefixWidth.advanceWidth, pageLabel.width - numberWidth.advanceWidth) : implicitWidth
+            width: prefixWidth.advanceWidth
             text: pageLabel.text.slice(0, pageLabel.text.length - pageLabel.number.length)
             color: "black"
             horizontalAlignment: Text.AlignRight
             font.family: pageLabel.fontName
             font.pixelSize: pageLabel.fontSize
             textFormat: Text.PlainText
-            elide: Text.ElideLeft
         }
         Label {
             width: numberWidth.advanceWidth
-            visible: pageLabel.number.length > 0
             text: pageLabel.number
             color: "black"
             font: prefixLabel.font
         }
+    }
+    Label {
+        id: wrapped
+        objectName: "PageWords"
+        width: parent.width
+        visible: !pageLabel.inColumns
+        text: pageLabel.text.trim()
+        color: "black"
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+        font: prefixLabel.font
+        textFormat: Text.PlainText
     }
 }

@@ -142,6 +142,7 @@ void TestKeyboard::largeListFontFitsTheRows()
         QVERIFY2(label, qPrintable(name));
         const QRectF inRow = label->mapRectToItem(row, label->boundingRect());
         QVERIFY2(inRow.top() >= 0 && inRow.bottom() <= row->height() && inRow.right() <= row->width(), qPrintable(name));
+        QVERIFY2(!label->property("truncated").toBool(), qPrintable(name)); // every word kept
     }
 }
 
