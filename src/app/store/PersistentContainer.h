@@ -26,7 +26,12 @@ public:
 
 private:
     std::optional<StoreError> open();
+    std::optional<StoreError> create(const QString &path);
+    static std::optional<StoreError> refuseUnwritable(const QString &path);
+    static std::optional<StoreError> check(QSqlDatabase &database, const QString &path);
+    static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
     std::optional<StoreError> migrate();
+    static std::optional<StoreError> migrate(QSqlDatabase &database, const QString &path);
 
     QString m_name;
     QString m_connectionName;
