@@ -14,6 +14,8 @@ packages=(
   qml6-module-qttest xvfb xauth libbenchmark-dev
   # packaging: shared-library dependencies of the .deb, and the two validators
   dpkg-dev desktop-file-utils appstream
+  # the file readers' libFuzzer targets (scripts/fuzz.sh)
+  clang-14 libclang-rt-14-dev
 )
 while read -r line; do
   line="${line%%#*}"
