@@ -4,7 +4,7 @@
 // a line. Modes:
 //   random DIR             for each line "run SEED FIRST" on standard input, a forked child
 //                          that makes random page, note and preference changes until killed
-//                          ("child PID" when it starts, "gone" once it has ended); forking
+//                          ("ready PID" when it starts, "gone" once it has ended); forking
 //                          spares each run the start-up of a process
 //   term DIR FIRST         notes saved in a loop, every other one left for the termination path
 //   full DIR LIMIT         a save that outgrows LIMIT bytes of file size (a full disk)
@@ -75,7 +75,7 @@ public:
     [[noreturn]] void run()
     {
         m_pages = context().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size();
-        report(u"ready\n"_s);
+        report(u"ready %1\n"_s.arg(::getpid()));
         for (;;) {
             if (m_random.bounded(4) == 0)
                 changePreference();
@@ -179,7 +179,6 @@ private:
             UserDefaults::setStandardDirectory(directory); // what the last child left
             RandomWorker(seed, first).run();
         }
-        report(u"child %1\n"_s.arg(child));
         int status = 0;
         ::waitpid(child, &status, 0);
         report(u"gone\n"_s);
