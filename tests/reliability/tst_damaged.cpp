@@ -75,6 +75,7 @@ private Q_SLOTS:
     void damagedStoreStopsAndIsKept();
     void damagedPreferencesAreKept_data();
     void damagedPreferencesAreKept();
+    void interruptedFirstStartIsBuiltAgain();
 };
 
 void TestDamaged::damagedStoreStopsAndIsKept_data()
@@ -161,6 +162,17 @@ void TestDamaged::damagedPreferencesAreKept()
     Preferences::write(PreferenceKeys::ReaderFontSize, 20.0);
     QCOMPARE(contentsOf(path + u".damaged"_s), bytes);
     QCOMPARE(UserDefaults(path).doubleForKey(u"ReaderFontSize"_s), 20.0);
+}
+
+// A first start killed while building the store leaves only the half-made file beside it.
+void TestDamaged::interruptedFirstStartIsBuiltAgain()
+{
+    TestEnvironment environment;
+    const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
+    writeFile(path + u".new"_s, QByteArray(1000, '\0'));
+    writeStore();
+    QVERIFY(!QFile::exists(path + u".new"_s));
+    QCOMPARE(AppDelegate::shared().viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 200);
 }
 
 QTEST_GUILESS_MAIN(TestDamaged)
