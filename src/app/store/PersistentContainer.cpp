@@ -107,7 +107,7 @@ std::optional<StoreError> PersistentContainer::open()
         return error;
     if (const auto error = configure(database, path))
         return error;
-    return migrate();
+    return migrate(database, path);
 }
 
 // A new store is built beside its final name and moved into place once its schema is written,
@@ -176,12 +176,6 @@ std::optional<StoreError> PersistentContainer::configure(QSqlDatabase &database,
             return errorOf(pragma.lastError(), path);
     }
     return std::nullopt;
-}
-
-std::optional<StoreError> PersistentContainer::migrate()
-{
-    QSqlDatabase database = QSqlDatabase::database(m_connectionName, false);
-    return migrate(database, storePath());
 }
 
 std::optional<StoreError> PersistentContainer::migrate(QSqlDatabase &database, const QString &path)
