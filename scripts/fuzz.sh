@@ -68,7 +68,7 @@ for target in fuzz_pagefile fuzz_specialdays fuzz_about fuzz_preferences; do
     continue
   fi
   runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
-  last=$(grep -E '^#[0-9]+' "$log" | tail -n 1)
+  last=$(grep -E '^#[0-9]+' "$log" | tail -n 1 || true)
   cov=$(sed -n 's/.* cov: \([0-9]*\).*/\1/p' <<< "$last")
   ft=$(sed -n 's/.* ft: \([0-9]*\).*/\1/p' <<< "$last")
   corpus=$(sed -n 's/.* corp: \([0-9]*\/[0-9a-zA-Z]*\).*/\1/p' <<< "$last")
