@@ -16,6 +16,8 @@ packages=(
   python3-pyatspi dbus at-spi2-core
   # packaging: shared-library dependencies of the .deb, and the two validators
   dpkg-dev desktop-file-utils appstream
+  # the file readers' libFuzzer targets (scripts/fuzz.sh)
+  clang-14 libclang-rt-14-dev
 )
 while read -r line; do
   line="${line%%#*}"

@@ -4,6 +4,7 @@
 #include "PersistentContainer.h"
 #include "ProductLinks.h"
 #include "SelfTest.h"
+#include "Termination.h"
 #include "UserDefaults.h"
 
 #include <QCommandLineParser>
@@ -18,48 +19,17 @@
 #include <QQuickWindow>
 #include <QScreen>
 #include <QSettings>
-#include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QTranslator>
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
 #include <memory>
-#include <sys/socket.h>
-#include <unistd.h>
 
 Q_IMPORT_QML_PLUGIN(LarkwellsPlugin)
 
 using namespace Qt::StringLiterals;
 
 namespace {
-int signalSockets[2] = {-1, -1};
-
-void forwardSignal(int)
-{
-    const char byte = 1;
-    [[maybe_unused]] const auto written = ::write(signalSockets[0], &byte, 1);
-}
-
-// SIGINT and SIGTERM end the application the normal way, so what is unsaved gets saved.
-void quitOnTerminationSignals(QGuiApplication &app)
-{
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalSockets) != 0)
-        return;
-    auto *notifier = new QSocketNotifier(signalSockets[1], QSocketNotifier::Read, &app);
-    QObject::connect(notifier, &QSocketNotifier::activated, &app, [] {
-        char byte;
-        [[maybe_unused]] const auto read = ::read(signalSockets[1], &byte, 1);
-        QGuiApplication::quit();
-    });
-    struct sigaction action = {};
-    action.sa_handler = forwardSignal;
-    sigemptyset(&action.sa_mask);
-    action.sa_flags = SA_RESTART;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
-}
-
 // The links the app was built with, beside the version (on standard error, so that standard
 // output stays the bare version line that packaging checks read).
 void printLinks()
@@ -168,8 +138,7 @@ int main(int argc, char *argv[])
 
     QQuickStyle::setStyle(u"Material"_s);
     AppDelegate::shared().didFinishLaunching();
-    QObject::connect(&app, &QGuiApplication::aboutToQuit, [] { AppDelegate::shared().applicationWillTerminate(); });
-    quitOnTerminationSignals(app);
+    Termination::install(app);
 
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s); // not a default import path before Qt 6.5

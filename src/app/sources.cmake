@@ -8,6 +8,7 @@ list(APPEND LARKWELLS_SOURCES
     app/ReviewPrompt.h app/ReviewPrompt.cpp
     app/Selection.h app/Selection.cpp
     app/SelfTest.h app/SelfTest.cpp
+    app/Termination.h app/Termination.cpp
     app/store/Entities.h app/store/Entities.cpp
     app/store/FetchRequest.h app/store/FetchRequest.cpp
     app/store/ManagedObject.h app/store/ManagedObject.cpp

@@ -56,39 +56,55 @@ UserDefaults::UserDefaults(QString filePath)
     load();
 }
 
-void UserDefaults::load()
+std::optional<UserDefaults::Contents> UserDefaults::parse(const QByteArray &bytes)
 {
-    QFile file(m_filePath);
-    if (!file.exists())
-        return;
     QJsonParseError error;
-    const QJsonDocument document = file.open(QIODevice::ReadOnly)
-        ? QJsonDocument::fromJson(file.readAll(), &error) : QJsonDocument();
-    if (!document.isObject()) {
-        // Keep the damaged file for inspection rather than overwriting it.
-        const QString aside = m_filePath + u".damaged"_s;
-        QFile::remove(aside);
-        file.close();
-        QFile::rename(m_filePath, aside);
-        Log::line(u"Preferences file unreadable, kept as "_s + aside);
-        return;
-    }
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (!document.isObject())
+        return std::nullopt;
+    Contents contents;
     const QJsonObject root = document.object();
     for (auto it = root.begin(); it != root.end(); ++it) {
         const QJsonObject entry = it.value().toObject();
         const QString type = entry.value(u"type"_s).toString();
         const QJsonValue value = entry.value(u"value"_s);
         if (type == u"bool"_s && value.isBool())
-            m_values.insert(it.key(), value.toBool());
+            contents.values.insert(it.key(), value.toBool());
         else if (type == u"integer"_s && value.isDouble())
-            m_values.insert(it.key(), qint64(value.toInteger()));
+            contents.values.insert(it.key(), qint64(value.toInteger()));
         else if (type == u"double"_s && value.isDouble())
-            m_values.insert(it.key(), value.toDouble());
+            contents.values.insert(it.key(), value.toDouble());
         else if (type == u"string"_s && value.isString())
-            m_values.insert(it.key(), value.toString());
+            contents.values.insert(it.key(), value.toString());
         else
-            Log::line(u"Preferences: ignored malformed entry "_s + it.key());
+            contents.malformedKeys.append(it.key());
     }
+    return contents;
+}
+
+void UserDefaults::load()
+{
+    QFile file(m_filePath);
+    if (!file.exists())
+        return;
+    const auto contents = file.open(QIODevice::ReadOnly) ? parse(file.readAll()) : std::nullopt;
+    file.close();
+    // A damaged file is kept for inspection: moved aside when nothing in it can be read, copied
+    // aside when only some entries are malformed (the next write leaves those out).
+    const QString aside = m_filePath + u".damaged"_s;
+    if (!contents) {
+        QFile::remove(aside);
+        QFile::rename(m_filePath, aside);
+        Log::line(u"Preferences file unreadable, kept as "_s + aside);
+        return;
+    }
+    m_values = contents->values;
+    if (contents->malformedKeys.isEmpty())
+        return;
+    QFile::remove(aside);
+    QFile::copy(m_filePath, aside);
+    for (const QString &key : contents->malformedKeys)
+        Log::line(u"Preferences: ignored malformed entry "_s + key + u", file kept as "_s + aside);
 }
 
 void UserDefaults::write() const
@@ -99,10 +115,14 @@ void UserDefaults::write() const
         root.insert(it.key(), QJsonObject{{u"type"_s, typeName(type)},
                                           {u"value"_s, QJsonValue::fromVariant(it.value())}});
     }
+    const QByteArray bytes = QJsonDocument(root).toJson(QJsonDocument::Indented);
     QSaveFile file(m_filePath);
-    if (!file.open(QIODevice::WriteOnly)
-        || file.write(QJsonDocument(root).toJson(QJsonDocument::Indented)) < 0 || !file.commit())
-        fatalError(u"Fatal error: cannot write the preferences file "_s + m_filePath + u": "_s + file.errorString());
+    // A full disk can end a write part way without an error: only a complete write may replace the file.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return;
+    const QString reason = file.error() == QFileDevice::NoError ? u"the disk took only part of it"_s : file.errorString();
+    file.cancelWriting();
+    fatalError(u"Fatal error: cannot write the preferences file "_s + m_filePath + u": "_s + reason);
 }
 
 QVariant UserDefaults::normalized(const QVariant &value)

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <optional>
 
@@ -40,6 +41,14 @@ public:
     bool synchronize() { return true; }
 
     QString filePath() const { return m_filePath; }
+
+    // What a preferences file's bytes hold: the well-formed entries, and the keys of entries whose
+    // type and value do not match. None when the bytes are not a JSON object.
+    struct Contents {
+        QHash<QString, QVariant> values;
+        QStringList malformedKeys;
+    };
+    static std::optional<Contents> parse(const QByteArray &bytes);
 
 private:
     void load();

@@ -261,7 +261,7 @@ std::optional<StoreError> ManagedObjectContext::execTransactionStatement(const Q
     if (ok)
         return std::nullopt;
     const QSqlError error(QCoreApplication::translate("QSQLiteDriver", failure), reason, QSqlError::TransactionError);
-    return StoreError{error.text(), {{u"reason"_s, error.databaseText()}}};
+    return StoreError{error.text(), {{u"NSFilePath"_s, m_database.databaseName()}, {u"reason"_s, error.databaseText()}}};
 }
 
 std::optional<StoreError> ManagedObjectContext::save()

@@ -3,6 +3,8 @@
 #include "FatalError.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStandardPaths>
@@ -96,10 +98,82 @@ std::optional<StoreError> PersistentContainer::open()
     const QString path = storePath();
     if (!QDir().mkpath(defaultDirectory()))
         return StoreError{u"The folder for the store could not be created."_s, {{u"NSFilePath"_s, defaultDirectory()}}};
+    if (!QFileInfo::exists(path)) {
+        if (const auto error = create(path))
+            return error;
+    }
+    if (const auto error = refuseUnwritable(path))
+        return error;
     QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connectionName);
     database.setDatabaseName(path);
     if (!database.open())
         return errorOf(database.lastError(), path);
+    // Reads only: a damaged or newer store is refused before anything could write to it.
+    if (const auto error = check(database, path))
+        return error;
+    if (const auto error = configure(database, path))
+        return error;
+    return migrate(database, path);
+}
+
+// A new store is built beside its final name and moved into place once its schema is written,
+// so an interrupted first start leaves no empty or half-made store behind.
+std::optional<StoreError> PersistentContainer::create(const QString &path)
+{
+    const QString building = path + u".new"_s;
+    for (const QString &suffix : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
+        QFile::remove(building + suffix);
+    const QString connection = m_connectionName + u"-new"_s;
+    std::optional<StoreError> error;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
+        database.setDatabaseName(building);
+        if (!database.open())
+            error = errorOf(database.lastError(), building);
+        if (!error)
+            error = configure(database, building);
+        if (!error)
+            error = migrate(database, building);
+        database.close();
+    }
+    QSqlDatabase::removeDatabase(connection);
+    if (!error && !QFile::rename(building, path))
+        error = StoreError{u"The new store could not be moved into place."_s, {{u"NSFilePath"_s, path}}};
+    return error;
+}
+
+std::optional<StoreError> PersistentContainer::refuseUnwritable(const QString &path)
+{
+    const QFileInfo file(path);
+    if (file.size() == 0)
+        return StoreError{u"The store file is empty."_s, {{u"NSFilePath"_s, path}}};
+    // The owner's write bit counts even for a user who could write anyway.
+    if (!file.isWritable() || !(file.permissions() & QFileDevice::WriteOwner))
+        return StoreError{u"The store file is read-only."_s, {{u"NSFilePath"_s, path}}};
+    return std::nullopt;
+}
+
+std::optional<StoreError> PersistentContainer::check(QSqlDatabase &database, const QString &path)
+{
+    QSqlQuery query(database);
+    if (!query.exec(u"PRAGMA busy_timeout = 5000"_s) || !query.exec(u"PRAGMA quick_check(1)"_s) || !query.next())
+        return errorOf(query.lastError(), path);
+    const QString verdict = query.value(0).toString();
+    query.finish();
+    if (verdict != u"ok"_s)
+        return StoreError{u"The store file is damaged."_s, {{u"NSFilePath"_s, path}, {u"reason"_s, verdict}}};
+    if (!query.exec(u"PRAGMA user_version"_s) || !query.next())
+        return errorOf(query.lastError(), path);
+    const int version = query.value(0).toInt();
+    query.finish();
+    if (version > migrations.size())
+        return StoreError{u"The store was written by a newer version of the application."_s,
+                          {{u"NSFilePath"_s, path}, {u"version"_s, version}}};
+    return std::nullopt;
+}
+
+std::optional<StoreError> PersistentContainer::configure(QSqlDatabase &database, const QString &path)
+{
     QSqlQuery pragma(database);
     // synchronous first: a new store's switch to WAL is then written with one disk flush fewer.
     for (const QString &statement : {u"PRAGMA synchronous = NORMAL"_s, u"PRAGMA journal_mode = WAL"_s,
@@ -107,32 +181,28 @@ std::optional<StoreError> PersistentContainer::open()
         if (!pragma.exec(statement))
             return errorOf(pragma.lastError(), path);
     }
-    return migrate();
+    return std::nullopt;
 }
 
-std::optional<StoreError> PersistentContainer::migrate()
+std::optional<StoreError> PersistentContainer::migrate(QSqlDatabase &database, const QString &path)
 {
-    QSqlDatabase database = QSqlDatabase::database(m_connectionName, false);
     QSqlQuery query(database);
     if (!query.exec(u"PRAGMA user_version"_s) || !query.next())
-        return errorOf(query.lastError(), storePath());
+        return errorOf(query.lastError(), path);
     const int version = query.value(0).toInt();
     query.finish();
-    if (version > migrations.size())
-        return StoreError{u"The store was written by a newer version of the application."_s,
-                          {{u"NSFilePath"_s, storePath()}, {u"version"_s, version}}};
     for (int step = version; step < migrations.size(); ++step) {
         if (!database.transaction())
-            return errorOf(database.lastError(), storePath());
+            return errorOf(database.lastError(), path);
         for (const QString &statement : migrations[step] + QStringList{u"PRAGMA user_version = %1"_s.arg(step + 1)}) {
             if (!query.exec(statement)) {
-                const StoreError error = errorOf(query.lastError(), storePath());
+                const StoreError error = errorOf(query.lastError(), path);
                 database.rollback();
                 return error;
             }
         }
         if (!database.commit())
-            return errorOf(database.lastError(), storePath());
+            return errorOf(database.lastError(), path);
     }
     return std::nullopt;
 }

@@ -19,14 +19,19 @@ public:
     static QString defaultDirectory();
     static void setDefaultDirectory(const QString &directory);
 
-    // Opens the store and brings its schema up to date; the handler gets the error, if any.
+    // Opens the store and brings its schema up to date; the handler gets the error, if any. An
+    // empty, read-only, damaged or newer store is an error and is left exactly as it is.
     void loadPersistentStores(const std::function<void(const std::optional<StoreError> &)> &completion);
     ManagedObjectContext &viewContext();
     QString storePath() const;
 
 private:
     std::optional<StoreError> open();
-    std::optional<StoreError> migrate();
+    std::optional<StoreError> create(const QString &path);
+    static std::optional<StoreError> refuseUnwritable(const QString &path);
+    static std::optional<StoreError> check(QSqlDatabase &database, const QString &path);
+    static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
+    static std::optional<StoreError> migrate(QSqlDatabase &database, const QString &path);
 
     QString m_name;
     QString m_connectionName;
