@@ -77,7 +77,8 @@ SwipeDelegate {
         width: 96
         height: cell.height - 4
         y: 2
-        anchors.right: parent.right
+        // Placed by the cell's width: the swipe's own parent is gone while the list closes.
+        x: cell.width - width
         focusPolicy: Qt.NoFocus
         text: qsTr("delete")
         Accessible.name: text

@@ -102,6 +102,8 @@ void TestNotesPage::writeFindEditDelete()
     QTRY_VERIFY(storedSubjects().isEmpty());
     QVERIFY(waitForItem(window, u"UndoButton"_s));
     QVERIFY(!Alerts::shared().showing());
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"CoverView"_s);
 }
 
 QTEST_MAIN(TestNotesPage)
