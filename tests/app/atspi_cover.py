@@ -91,7 +91,11 @@ class Application:
     def stop(self):
         if self.alive():
             self.process.terminate()
-            self.process.wait(10)
+            try:
+                self.process.wait(10)
+            except subprocess.TimeoutExpired:  # never leave a window behind
+                self.process.kill()
+                self.process.wait()
 
 
 def find_application(registry, process):
