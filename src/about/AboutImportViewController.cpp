@@ -8,6 +8,7 @@
 #include "Log.h"
 #include "Navigator.h"
 #include "StoreSnapshots.h"
+#include "TableClearing.h"
 #include "UpdateFileTarget.h"
 
 #include <QFile>
@@ -100,16 +101,7 @@ void AboutImportViewController::clearAboutTable()
     if (const auto snapshot = StoreSnapshots::take(StoreSnapshots::aboutImport))
         AboutImportUndo::shared().importStarted(*snapshot);
     const auto container = loadedContainer();
-    ManagedObjectContext &context = container->viewContext();
-    std::optional<StoreError> error;
-    const QList<About *> articles = context.fetch<About>(About::fetchRequest(), &error);
-    if (error)
-        return;
-    for (About *article : articles) {
-        context.deleteObject(article);
-        if (const auto saveError = context.save())
-            Log::line(saveError->unresolvedMessage());
-    }
+    TableClearing::deleteEachSaving<About>(container->viewContext());
 }
 
 void AboutImportViewController::ImportButtonClicked()

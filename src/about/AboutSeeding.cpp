@@ -7,22 +7,14 @@
 #include "FatalError.h"
 #include "Log.h"
 #include "StoreSnapshots.h"
+#include "TableClearing.h"
 
 using namespace Qt::StringLiterals;
 
 void AboutSeeding::clearAbouts()
 {
     StoreSnapshots::take(u"about-first-visit"_s);
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    std::optional<StoreError> error;
-    const QList<About *> articles = context.fetch<About>(About::fetchRequest(), &error);
-    if (error)
-        return;
-    for (About *article : articles) {
-        context.deleteObject(article);
-        if (const auto saveError = context.save())
-            Log::line(saveError->unresolvedMessage());
-    }
+    TableClearing::deleteEachSaving<About>(AppDelegate::shared().viewContext());
 }
 
 void AboutSeeding::loadAbouts()

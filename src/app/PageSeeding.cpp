@@ -6,6 +6,7 @@
 #include "Log.h"
 #include "PageFile.h"
 #include "StoreSnapshots.h"
+#include "TableClearing.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,16 +18,7 @@ void PageSeeding::clearPoemPrayers()
     // connection when it closes, SQLite would checkpoint and delete the write-ahead log (with
     // its disk flushes) only for the loading to create it again.
     AppDelegate::shared().persistentContainer();
-    ManagedObjectContext &context = container->viewContext();
-    std::optional<StoreError> error;
-    const QList<PoemPrayer *> pages = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest(), &error);
-    if (error)
-        return;
-    for (PoemPrayer *page : pages) {
-        context.deleteObject(page);
-        if (const auto saveError = context.save())
-            Log::line(saveError->unresolvedMessage());
-    }
+    TableClearing::deleteEachSaving<PoemPrayer>(container->viewContext());
 }
 
 void PageSeeding::loadPoemPrayers(const QStringList &columns)

@@ -14,6 +14,7 @@ list(APPEND LARKWELLS_SOURCES
     app/store/ManagedObject.h app/store/ManagedObject.cpp
     app/store/ManagedObjectContext.h app/store/ManagedObjectContext.cpp
     app/store/PersistentContainer.h app/store/PersistentContainer.cpp
+    app/store/TableClearing.h app/store/TableClearing.cpp
     app/store/StoreSnapshots.h app/store/StoreSnapshots.cpp
 )
 list(APPEND LARKWELLS_QML

@@ -6,6 +6,7 @@
 #include "FatalError.h"
 #include "Log.h"
 #include "StoreSnapshots.h"
+#include "TableClearing.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,16 +34,7 @@ void SpecialDaySeeding::seed()
 bool SpecialDaySeeding::clearSpecialDays(ManagedObjectContext &context)
 {
     StoreSnapshots::take(u"special-days-first-visit"_s);
-    std::optional<StoreError> error;
-    const QList<SpecialDay *> days = context.fetch<SpecialDay>(SpecialDay::fetchRequest(), &error);
-    if (error)
-        return false;
-    for (SpecialDay *day : days) {
-        context.deleteObject(day);
-        if (const auto saveError = context.save())
-            Log::line(saveError->unresolvedMessage());
-    }
-    return true;
+    return TableClearing::deleteEachSaving<SpecialDay>(context);
 }
 
 void SpecialDaySeeding::insert(const SpecialDayFile::Record &record, ManagedObjectContext &context)
