@@ -3,7 +3,6 @@
 #include "AppDelegate.h"
 #include "Entities.h"
 #include "Log.h"
-#include "SpecialDayFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,11 +16,20 @@ SpecialDaysExportViewController::SpecialDaysExportViewController(QObject *parent
 QString SpecialDaysExportViewController::updateFileText()
 {
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const auto written = SpecialDayFile::write(SpecialDayFile::recordsOf(context.fetch<SpecialDay>(SpecialDay::fetchRequest())));
+    const auto written = SpecialDayFile::write(recordsOf(context.fetch<SpecialDay>(SpecialDay::fetchRequest())));
     // Days come from the shipped file, which cannot hold what the format cannot spell.
     if (const auto *error = std::get_if<SpecialDayFile::WriteError>(&written)) {
         Log::line(error->message);
         return QString();
     }
     return QString::fromUtf8(std::get<QByteArray>(written));
+}
+
+QList<SpecialDayFile::Record> SpecialDaysExportViewController::recordsOf(const QList<SpecialDay *> &days)
+{
+    QList<SpecialDayFile::Record> records;
+    for (const SpecialDay *day : days)
+        records.append({{day->ampm().value_or(QString()), day->dayname().value_or(QString()),
+                         day->poemprayer().value_or(QString())}});
+    return records;
 }

@@ -1,7 +1,5 @@
 #include "SpecialDayFile.h"
 
-#include "Entities.h"
-
 #include <QFile>
 #include <QStringDecoder>
 
@@ -72,13 +70,4 @@ std::variant<QByteArray, SpecialDayFile::WriteError> SpecialDayFile::write(const
         text += fields.join(u'^') + u'\n';
     }
     return text.toUtf8();
-}
-
-QList<SpecialDayFile::Record> SpecialDayFile::recordsOf(const QList<SpecialDay *> &days)
-{
-    QList<Record> records;
-    for (const SpecialDay *day : days)
-        records.append({{day->ampm().value_or(QString()), day->dayname().value_or(QString()),
-                         day->poemprayer().value_or(QString())}});
-    return records;
 }

@@ -3,8 +3,6 @@
 #include <QStringList>
 #include <variant>
 
-class SpecialDay;
-
 // The special-day file: UTF-8, one day a line, "ampm^dayname^poemprayer", "@#@" for a line
 // break in the poem, marker lines "[SPECIALDAYS]" and empty lines skipped wherever they stand.
 // The shipped file and the export share it. These functions return values or errors and leave
@@ -40,8 +38,5 @@ std::variant<QList<Record>, ParseError> records(const QString &text);
 // fields, a field holding "^", or a name or time of day holding a line break has no spelling in
 // the format and is an error.
 std::variant<QByteArray, WriteError> write(const QList<Record> &records);
-
-// The records of stored days, in their order, an absent value as an empty field.
-QList<Record> recordsOf(const QList<SpecialDay *> &days);
 
 }

@@ -42,11 +42,8 @@ private:
 
 QQuickWindow *TestAboutPages::openAboutList(QQmlApplicationEngine &engine)
 {
-    importLarkwellsModule();
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    if (!window || !QTest::qWaitForWindowExposed(window))
+    QQuickWindow *window = loadMainWindow(engine);
+    if (!window)
         return nullptr;
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"AboutButton"_s));

@@ -5,7 +5,7 @@
 #include "PageFileWriter.h"
 #include "PageRows.h"
 #include "PageSeeding.h"
-#include "SpecialDayFile.h"
+#include "SpecialDaysExportViewController.h"
 #include "StoreSnapshots.h"
 #include "TestSupport.h"
 
@@ -162,7 +162,7 @@ void TestUpdateFiles::specialDaysFileAndItsRoundTrip()
     const QList<SpecialDay *> days = insertDays({{u"AM"_s, u"Midsummer"_s, u"Long light\nshort night"_s},
                                                  {u"PM"_s, u"Quiet Day"_s, u"-"_s},
                                                  {u"-"_s, u"Nameless"_s, u"A line"_s}});
-    const QString text = QString::fromUtf8(std::get<QByteArray>(SpecialDayFile::write(SpecialDayFile::recordsOf(days))));
+    const QString text = QString::fromUtf8(std::get<QByteArray>(SpecialDayFile::write(SpecialDaysExportViewController::recordsOf(days))));
     QCOMPARE(text.toUtf8(), golden(u"specialdays.txt"_s));
     QCOMPARE(std::get<QByteArray>(SpecialDayFile::write({})), "[SPECIALDAYS]\n");
 

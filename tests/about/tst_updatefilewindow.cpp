@@ -51,12 +51,9 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     file.write("[ABOUT]\nImported^From the file\n");
     file.close();
 
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
 
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"ResetButton"_s));

@@ -36,11 +36,8 @@ namespace {
 // The cover window with the first-launch advice answered.
 QQuickWindow *openCover(QQmlApplicationEngine &engine)
 {
-    importLarkwellsModule();
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    if (!window || !QTest::qWaitForWindowExposed(window))
+    QQuickWindow *window = loadMainWindow(engine);
+    if (!window)
         return nullptr;
     auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
     if (!QTest::qWaitFor([&] { return dialog->property("opened").toBool(); }))

@@ -48,12 +48,9 @@ void TestNotesPage::writeFindEditDelete()
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     Clock::set([] { return QDateTime(QDate(2027, 3, 3), QTime(12, 0)); });
     UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
 
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"NotesButton"_s));

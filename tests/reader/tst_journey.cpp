@@ -30,12 +30,9 @@ void TestJourney::coverListReaderAndBack()
     UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     insertPages({u"January 1|AM|1|1|1|F|Snow on the sill@#@and bread on the table"_s.replace(u"@#@"_s, u"\n"_s),
                  u"January 1|PM|1|1|2|F|Night one"_s, u"January 2|AM|1|2|3|F|Second morning"_s});
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
     QVERIFY(!Alerts::shared().showing());
 
     click(window, waitForItem(window, u"ControlButton"_s));
@@ -73,12 +70,9 @@ void TestJourney::searchReadAndBack()
     const QString longPage = u"A line of the morning\n"_s.repeated(80) + u"The lantern glows"_s;
     insertPages({u"January 1|AM|1|1|1|F|Snow on the sill"_s, u"January 1|PM|1|1|2|F|Night of lanterns"_s,
                  u"February 10|AM|2|10|41|F|"_s + longPage});
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
 
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"SearchButton"_s));

@@ -51,12 +51,9 @@ void TestKeyboard::keyboardAlone()
     for (int i = 0; i < 60; ++i)
         pages << u"Day %1|AM|%2|%3|%4|F|Morning %4"_s.arg(i).arg(1 + i / 28).arg(1 + i % 28).arg(2 * i + 1);
     insertPages(pages);
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"GoodMorningButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
@@ -125,12 +122,9 @@ void TestKeyboard::largeListFontFitsTheRows()
     UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
     insertPages({u"September 30|AM|9|30|547|F|Morning"_s});
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
     window->resize(360, 640);
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"GoodMorningButton"_s));

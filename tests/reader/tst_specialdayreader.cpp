@@ -134,12 +134,9 @@ void TestSpecialDayReader::listReaderAndBack()
     environment.addBundleFile(u"SpecialDays.txt"_s,
                               "[SPECIALDAYS]\r\nPM^Candlemas^Light kept@#@for the dark\r\nAM^Candlemas^Morning light\r\n");
     UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QVERIFY(window && QTest::qWaitForWindowExposed(window));
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
 
     click(window, waitForItem(window, u"ControlButton"_s));
     click(window, waitForItem(window, u"SpecialDaysButton"_s));

@@ -29,15 +29,12 @@ struct App {
     App()
     {
         UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-        importLarkwellsModule();
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-        window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+        window = loadMainWindow(engine);
     }
     // Opens a screen from the cover's menu.
     void open(const QString &menuButton, const QString &page)
     {
-        QVERIFY(window && QTest::qWaitForWindowExposed(window));
+        QVERIFY(window);
         click(window, waitForItem(window, u"ControlButton"_s));
         click(window, waitForItem(window, menuButton));
         QTRY_COMPARE(topPage(window), page);

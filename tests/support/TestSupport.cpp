@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QQmlExtensionPlugin>
+#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -117,4 +118,13 @@ QString topPage(QQuickWindow *window)
 {
     QQuickItem *screen = currentScreen(window);
     return screen ? screen->objectName() : QString();
+}
+
+QQuickWindow *loadMainWindow(QQmlApplicationEngine &engine)
+{
+    importLarkwellsModule();
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml")); // not a default import path before Qt 6.5
+    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkwells/app/Main.qml")));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
 }

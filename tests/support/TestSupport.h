@@ -34,6 +34,9 @@ QQuickItem *findItem(QQuickItem *root, const QString &objectName);
 QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName);
 
 class QQuickWindow;
+class QQmlApplicationEngine;
+// The application's window as main.cpp loads it, once it is on screen; null when it fails.
+QQuickWindow *loadMainWindow(QQmlApplicationEngine &engine);
 // The visible item with this name once it has stopped moving (slid open, laid out), or null
 // after 15 s.
 QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName);
