@@ -1,5 +1,6 @@
 #include "AboutFileWriter.h"
 #include "AboutImportViewController.h"
+#include "AboutRows.h"
 #include "Alerts.h"
 #include "FatalError.h"
 #include "PageFileWriter.h"
@@ -21,21 +22,6 @@ QByteArray golden(const QString &name)
 {
     QFile file(QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing golden file");
-}
-
-// Articles as "name|text", "-" for an absent value.
-void insertArticles(const QStringList &rows)
-{
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    for (const QString &row : rows) {
-        About *article = context.insertNewObject<About>();
-        const QStringList fields = row.split(u'|');
-        if (fields[0] != u"-")
-            article->setName(fields[0]);
-        if (fields[1] != u"-")
-            article->setAboutText(fields[1]);
-    }
-    context.save();
 }
 
 QList<SpecialDay *> insertDays(const QList<QStringList> &rows)
@@ -101,7 +87,7 @@ void TestUpdateFiles::pageUpdateFile()
 void TestUpdateFiles::aboutFileSortedByNameWithoutNamelessArticles()
 {
     TestEnvironment environment;
-    insertArticles({u"Thanks|To our readers.\n\nAnd to our families."_s, u"-|Never written"_s,
+    insertAbouts({u"Thanks|To our readers.\n\nAnd to our families."_s, u"-|Never written"_s,
                     u"Introduction|A morning and an evening page for each day."_s, u"|Nameless text"_s,
                     u"Caret|one line\ntwo^three"_s});
     AboutImportViewController controller;
@@ -123,7 +109,7 @@ void TestUpdateFiles::aboutFileSortedByNameWithoutNamelessArticles()
 void TestUpdateFiles::aboutArticleWithoutTextCannotBeWritten()
 {
     TestEnvironment environment;
-    insertArticles({u"Draft|-"_s});
+    insertAbouts({u"Draft|-"_s});
     AboutImportViewController controller;
     QVERIFY_THROWS_EXCEPTION(FatalErrorException, controller.CreateExportFile());
 }
@@ -133,7 +119,7 @@ void TestUpdateFiles::aboutExportThenImportGivesTheSameArticles()
     TestEnvironment environment;
     const QStringList articles{u"Acknowledgements|To all who read.\n\nThank you."_s, u"Introduction|One page a morning."_s,
                                u"Quiet|Short"_s};
-    insertArticles(articles);
+    insertAbouts(articles);
     AboutImportViewController exporter;
     exporter.CreateExportFile();
     QTemporaryDir folder;
@@ -181,7 +167,7 @@ void TestUpdateFiles::snapshotsKeepTheNewestFive()
 {
     TestEnvironment environment;
     QVERIFY(!StoreSnapshots::take(u"first-launch"_s)); // no store yet, nothing to copy
-    insertArticles({u"Kept|In every copy"_s});
+    insertAbouts({u"Kept|In every copy"_s});
     QStringList taken;
     for (int i = 0; i < 7; ++i)
         taken.append(StoreSnapshots::take(i % 2 ? StoreSnapshots::aboutImport : u"seeding"_s).value_or(QString()));
@@ -193,7 +179,7 @@ void TestUpdateFiles::snapshotsKeepTheNewestFive()
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
     for (About *article : context.fetch<About>(About::fetchRequest()))
         context.deleteObject(article);
-    insertArticles({u"Later|Written after"_s});
+    insertAbouts({u"Later|Written after"_s});
     QVERIFY(StoreSnapshots::restoreArticles(taken[5]));
     const auto container = loadedContainer();
     const auto restored = container->viewContext().fetch<About>(About::fetchRequest());
