@@ -14,7 +14,28 @@ Page {
     Component.onCompleted: controller.viewDidLoad()
     StackView.onActivating: {
         controller.viewWillAppear()
-        table.restore()
+        table.restoreAt(controller.openRow())
+    }
+
+    // The row "Go to Date" found, lit for a moment.
+    property int litRow: -1
+    Timer {
+        id: unlight
+        interval: 1500
+        onTriggered: root.litRow = -1
+    }
+    function goTo(row: int) {
+        if (row < 0)
+            return
+        table.forceActiveFocus()
+        table.currentIndex = row
+        table.positionViewAtIndex(row, ListView.Center)
+        litRow = row
+        unlight.restart()
+    }
+    function goToMonthDay(shown: date) {
+        datePicker.close()
+        goTo(controller.goToDate(shown.getMonth() + 1, shown.getDate()))
     }
 
     header: NavigationBar {
@@ -27,6 +48,42 @@ Page {
             segmentWidth: Math.floor(Math.min(68, (root.width - 120) / 5))
             fontSize: segmentWidth < 56 ? 13 : 15 // "Today" whole on a small phone
             onActivated: index => controller.segmentedControlAction(index)
+        }
+        BarButton {
+            id: goToDateButton
+            objectName: "GoToDateButton"
+            text: qsTr("Go to Date")
+            // On a phone the bar has room for a small calendar only.
+            readonly property bool compact: root.width < 600
+            contentItem: Item {
+                implicitWidth: goToDateButton.compact ? 24 : dateLabel.implicitWidth
+                implicitHeight: dateLabel.implicitHeight
+                Label {
+                    id: dateLabel
+                    anchors.centerIn: parent
+                    visible: !goToDateButton.compact
+                    text: goToDateButton.text
+                    font: goToDateButton.font
+                    color: Theme.tint
+                }
+                Rectangle {
+                    anchors.centerIn: parent
+                    visible: goToDateButton.compact
+                    width: 22
+                    height: 20
+                    radius: 3
+                    color: "white"
+                    border.width: 2
+                    border.color: Theme.tint
+                    Rectangle {
+                        width: parent.width
+                        height: 7
+                        radius: 3
+                        color: Theme.tint
+                    }
+                }
+            }
+            onClicked: datePicker.show(controller.today())
         }
     }
 
@@ -42,6 +99,7 @@ Page {
                    ? qsTr("No favorites yet. Tick the box on a page you love and it will wait for you here.")
                    : qsTr("No pages for this day.")
         delegate: GMNTableViewCell {
+            id: row
             required property int index
             objectName: "row-" + index
             width: table.width
@@ -53,6 +111,28 @@ Page {
                 controller.didSelectRowAt(index)
             }
             onFavoriteChanged: checkState => controller.FavoriteCheckBoxChanged(index, checkState)
+            Rectangle {
+                objectName: "dateHighlight"
+                anchors.fill: parent
+                radius: Theme.cornerRadius
+                color: Qt.rgba(Theme.tint.r, Theme.tint.g, Theme.tint.b, 0.15)
+                border.width: 3
+                border.color: Theme.tint
+                opacity: root.litRow === row.index ? 1 : 0
+                Behavior on opacity { NumberAnimation { duration: 300 } }
+            }
         }
+    }
+
+    NoteDatePicker {
+        id: datePicker
+        objectName: "goToDatePicker"
+        parent: Overlay.overlay
+        width: parent.width
+        y: parent.height - height
+        yearShown: false
+        onDoneClicked: shown => root.goToMonthDay(shown)
+        onTodayClicked: root.goToMonthDay(controller.today())
+        onClosed: if (!table.activeFocus) goToDateButton.forceActiveFocus()
     }
 }

@@ -8,6 +8,8 @@
 #include "Navigator.h"
 #include "Selection.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,6 +47,7 @@ FetchRequest requestForSegment(int segment)
 MainTableViewController::MainTableViewController(QObject *parent)
     : QObject(parent)
     , m_PoemList(this)
+    , m_sequence(&MainTableViewController::selectPage, this)
 {
 }
 
@@ -93,21 +96,43 @@ void MainTableViewController::fetch()
 
 void MainTableViewController::didSelectRowAt(int row)
 {
-    const PoemPrayer *page = m_PoemList.pages().value(row);
-    if (!page)
-        return;
+    if (m_sequence.choose(m_PoemList.pages(), row))
+        Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+}
+
+void MainTableViewController::selectPage(const PoemPrayer &page)
+{
     Selection &selection = Selection::shared();
-    selection.setSelectedPoemPrayer(page->poemprayer().value_or(QString()));
-    selection.setSelectedDt(page->dt().value_or(QString()));
-    if (!page->ampm())
+    selection.setSelectedPoemPrayer(page.poemprayer().value_or(QString()));
+    selection.setSelectedDt(page.dt().value_or(QString()));
+    if (!page.ampm())
         fatalError(u"Fatal error: the chosen page has no time of day"_s);
-    if (!page->ampm()->isEmpty())
-        selection.setSelectedAmpm(*page->ampm());
-    selection.setSelectedMonth(page->month());
-    selection.setSelectedDay(page->day());
-    selection.setSelectedPagenum(page->pagenum());
-    selection.setSelectedFavorite(page->favorite() == u"T"_s ? u"T"_s : u"F"_s);
-    Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+    if (!page.ampm()->isEmpty())
+        selection.setSelectedAmpm(*page.ampm());
+    selection.setSelectedMonth(page.month());
+    selection.setSelectedDay(page.day());
+    selection.setSelectedPagenum(page.pagenum());
+    selection.setSelectedFavorite(page.favorite() == u"T"_s ? u"T"_s : u"F"_s);
+}
+
+int MainTableViewController::openRow() const
+{
+    return m_sequence.rowIn(m_PoemList.pages());
+}
+
+QDateTime MainTableViewController::today() const
+{
+    return QDateTime(Clock::today(), QTime(12, 0));
+}
+
+int MainTableViewController::goToDate(int month, int day)
+{
+    segmentedControlAction(1);
+    const QList<PoemPrayer *> &pages = m_PoemList.pages();
+    const auto morning = std::find_if(pages.cbegin(), pages.cend(), [month, day](const PoemPrayer *page) {
+        return page->month() == month && page->day() == day && page->ampm() == u"AM"_s;
+    });
+    return morning == pages.cend() ? -1 : int(morning - pages.cbegin());
 }
 
 void MainTableViewController::FavoriteCheckBoxChanged(int row, int checkState)

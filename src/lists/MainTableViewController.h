@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "PageSequence.h"
 #include "PoemPrayerListModel.h"
 
 #include <QObject>
@@ -35,6 +36,13 @@ public:
     // The reader came back.
     Q_INVOKABLE void unwindSegue() {}
     Q_INVOKABLE void didSelectRowAt(int row);
+    // The row of the page a reader opened from this list shows now (it may have turned to
+    // another); -1 when that page is not listed.
+    Q_INVOKABLE int openRow() const;
+    // Switches to "All" and gives the row of the morning page of that day; -1 when there is none.
+    Q_INVOKABLE int goToDate(int month, int day);
+    // Today at noon, where the date picker starts.
+    Q_INVOKABLE QDateTime today() const;
     // The row's favourite box was ticked or cleared (0 unchecked, 1 checked): the page is saved
     // with its new mark at once.
     Q_INVOKABLE void FavoriteCheckBoxChanged(int row, int checkState);
@@ -44,8 +52,10 @@ Q_SIGNALS:
 
 private:
     void fetch(); // the one place that decides which pages are shown
+    static void selectPage(const PoemPrayer &page);
 
     PoemPrayerListModel m_PoemList;
+    PageSequence m_sequence;
     ListAppearance m_appearance;
     int m_segmentIndex = 0;
 };

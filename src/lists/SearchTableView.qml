@@ -16,7 +16,7 @@ Page {
     Component.onCompleted: controller.viewDidLoad()
     StackView.onActivating: {
         controller.viewWillAppear()
-        table.restore()
+        table.restoreAt(controller.openRow())
     }
     StackView.onActivated: {
         if (!opened)

@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 SearchTableViewController::SearchTableViewController(QObject *parent)
     : QObject(parent)
     , m_rows(this)
+    , m_sequence([this](const PoemPrayer &page) { selectPage(page); }, this)
 {
 }
 
@@ -135,24 +136,26 @@ void SearchTableViewController::reload()
 
 void SearchTableViewController::didSelectRowAt(int row)
 {
+    if (m_sequence.choose(m_searchText.isEmpty() ? m_PoemList : m_FilteredPoemList, row))
+        Navigator::shared().performSegue(u"SearchPoemSegue"_s);
+}
+
+void SearchTableViewController::selectPage(const PoemPrayer &page) const
+{
     const bool searching = !m_searchText.isEmpty();
-    const PoemPrayer *page = (searching ? m_FilteredPoemList : m_PoemList).value(row);
-    if (!page)
-        return;
     Selection &selection = Selection::shared();
     selection.setSelectedSearchText(m_searchText);
-    selection.setSelectedPoemPrayer(page->poemprayer().value_or(QString()));
-    selection.setSelectedDt(page->dt().value_or(QString()));
-    if (const auto ampm = page->ampm(); ampm && !ampm->isEmpty())
+    selection.setSelectedPoemPrayer(page.poemprayer().value_or(QString()));
+    selection.setSelectedDt(page.dt().value_or(QString()));
+    if (const auto ampm = page.ampm(); ampm && !ampm->isEmpty())
         selection.setSelectedAmpm(*ampm);
-    selection.setSelectedMonth(page->month());
-    selection.setSelectedDay(page->day());
-    selection.setSelectedPagenum(page->pagenum());
+    selection.setSelectedMonth(page.month());
+    selection.setSelectedDay(page.day());
+    selection.setSelectedPagenum(page.pagenum());
     // A mark neither "T" nor "F" reads as "F" on the whole list but as none on a filtered one.
-    const QString favorite = page->favorite().value_or(QString());
+    const QString favorite = page.favorite().value_or(QString());
     if (favorite == u"T"_s)
         selection.setSelectedFavorite(u"T"_s);
     else
         selection.setSelectedFavorite(!searching || favorite == u"F"_s ? u"F"_s : QString());
-    Navigator::shared().performSegue(u"SearchPoemSegue"_s);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "PageSequence.h"
 #include "PoemPrayerListModel.h"
 
 #include <QObject>
@@ -49,6 +50,9 @@ public:
     // The reader came back.
     Q_INVOKABLE void unwindSegue() {}
     Q_INVOKABLE void didSelectRowAt(int row);
+    // The row of the page a reader opened from this list shows now (it may have turned to
+    // another); -1 when that page is not listed.
+    Q_INVOKABLE int openRow() const { return m_sequence.rowIn(m_rows.pages()); }
 
 Q_SIGNALS:
     void segmentIndexChanged();
@@ -61,8 +65,10 @@ private:
     void reload();
     // The searched field of every page, lower-cased once per fetch rather than on every keystroke.
     void lowerFields();
+    void selectPage(const PoemPrayer &page) const;
 
     PoemPrayerListModel m_rows;
+    PageSequence m_sequence;
     ListAppearance m_appearance;
     QList<PoemPrayer *> m_PoemList;
     QList<PoemPrayer *> m_FilteredPoemList;

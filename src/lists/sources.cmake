@@ -1,6 +1,7 @@
 # Sources of this subsystem, relative to src/.
 list(APPEND LARKWELLS_SOURCES
     lists/MainTableViewController.h lists/MainTableViewController.cpp
+    lists/PageSequence.h lists/PageSequence.cpp
     lists/PoemPrayerListModel.h lists/PoemPrayerListModel.cpp
     lists/SearchTableViewController.h lists/SearchTableViewController.cpp
     lists/SpecialDayFile.h lists/SpecialDayFile.cpp

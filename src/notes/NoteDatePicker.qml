@@ -4,8 +4,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Larkwells
 
-// The note's date picker, docked at the bottom: month, day and year wheels under a bar with
-// "Done" and "Today". The wheels turn by touch, by Up/Down once focused (Tab moves between
+// A date picker docked at the bottom: month, day and (unless hidden) year wheels under a bar
+// with "Done" and "Today". The wheels turn by touch, by Up/Down once focused (Tab moves between
 // them), and by a screen reader's increase and decrease.
 Popup {
     id: picker
@@ -15,11 +15,16 @@ Popup {
     signal todayClicked()
 
     readonly property int firstYear: 1900
+    // Without the year, a day of the calendar in no particular year: February has 29 days.
+    property bool yearShown: true
+    function shownYear(): int {
+        return yearShown ? firstYear + yearWheel.currentIndex : 2000
+    }
     property bool syncing: false
 
     function chosenDate(): date {
-        return new Date(firstYear + yearWheel.currentIndex, monthWheel.currentIndex,
-                        Math.min(dayWheel.currentIndex + 1, daysIn(monthWheel.currentIndex, firstYear + yearWheel.currentIndex)))
+        return new Date(shownYear(), monthWheel.currentIndex,
+                        Math.min(dayWheel.currentIndex + 1, daysIn(monthWheel.currentIndex, shownYear())))
     }
     function daysIn(month: int, year: int): int {
         return new Date(year, month + 1, 0).getDate()
@@ -28,7 +33,7 @@ Popup {
         syncing = true
         yearWheel.currentIndex = shown.getFullYear() - firstYear
         monthWheel.currentIndex = shown.getMonth()
-        dayWheel.labels = dayLabels(daysIn(shown.getMonth(), shown.getFullYear()))
+        dayWheel.labels = dayLabels(daysIn(shown.getMonth(), shownYear()))
         dayWheel.currentIndex = shown.getDate() - 1
         syncing = false
         open()
@@ -40,7 +45,7 @@ Popup {
     function wheelMoved() {
         if (syncing || !visible)
             return
-        const days = daysIn(monthWheel.currentIndex, firstYear + yearWheel.currentIndex)
+        const days = daysIn(monthWheel.currentIndex, shownYear())
         if (dayWheel.count !== days) {
             const day = dayWheel.currentIndex
             syncing = true
@@ -144,6 +149,7 @@ Popup {
             Wheel {
                 id: yearWheel
                 objectName: "yearWheel"
+                visible: picker.yearShown
                 title: qsTr("Year")
                 labels: Array.from({ length: 201 }, (_, i) => String(picker.firstYear + i))
                 Layout.preferredWidth: 2

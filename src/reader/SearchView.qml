@@ -16,12 +16,16 @@ Page {
     Component.onCompleted: controller.viewDidLoad()
     // Once on screen and laid out, the first match is brought into view.
     StackView.onActivated: {
-        if (!revealed && controller.firstMatchPosition >= 0) {
-            const match = surface.textView.positionToRectangle(controller.firstMatchPosition)
-            const top = match.y * controller.appearance.zoom
-            surface.contentY = Math.max(0, Math.min(top - surface.height / 3, surface.contentHeight - surface.height))
-        }
+        if (!revealed)
+            revealMatch()
         revealed = true
+    }
+    function revealMatch() {
+        if (controller.firstMatchPosition < 0)
+            return
+        const match = surface.textView.positionToRectangle(controller.firstMatchPosition)
+        const top = match.y * controller.appearance.zoom
+        surface.contentY = Math.max(0, Math.min(top - surface.height / 3, surface.contentHeight - surface.height))
     }
 
     Connections {
@@ -49,6 +53,13 @@ Page {
         text: controller.PoemPrayerText
         onSizeStepRequested: direction => direction > 0 ? controller.IncreaseFontSize() : controller.DecreaseFontSize()
         onPinched: scale => controller.HandlePinch(scale)
+    }
+
+    PageTurner {
+        anchors.fill: surface
+        surface: surface
+        reader: controller
+        onTurned: root.revealMatch()
     }
 
     footer: ToolBar {

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 SearchViewController::SearchViewController(QObject *parent)
-    : ReaderScreen(parent)
+    : PageTurningReader(parent)
 {
 }
 
@@ -59,14 +59,18 @@ void SearchViewController::viewDidLoad()
     m_title = u"Search Poems/Prayers"_s;
     // Every draw, the first included, stays below the last wallpaper.
     loadAppearance(34);
+    showSelection();
+}
 
+void SearchViewController::showSelection()
+{
     Selection &selection = Selection::shared();
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
     selection.setSelectedPoemPrayer(m_CombinedText);
 
     // Another colour code leaves the text view as laid out: empty, in the default look.
-    if (m_appearance.applyTextColor())
-        m_shownText = m_CombinedText;
+    m_shownText = m_appearance.applyTextColor() ? m_CombinedText : QString();
+    m_ranges.clear();
     if (!selection.selectedSearchText().isEmpty())
         markMatches(selection.selectedSearchText());
     m_PoemPrayerText = markedText(m_shownText, m_ranges);

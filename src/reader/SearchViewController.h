@@ -1,13 +1,13 @@
 #pragma once
 
-#include "ReaderScreen.h"
+#include "PageTurningReader.h"
 
 #include <QObject>
 #include <QQmlEngine>
 
 // Shows the page chosen in the search list under its heading and date, with every match of the
 // search text marked in yellow; marks the page a favourite, changes the size and shares it.
-class SearchViewController : public ReaderScreen
+class SearchViewController : public PageTurningReader
 {
     Q_OBJECT
     QML_ELEMENT
@@ -53,6 +53,9 @@ public:
 Q_SIGNALS:
     // The favourite box should show this state (0 unchecked, 1 checked).
     void favoriteCheckStateRequested(int checkState, bool animated);
+
+protected:
+    void showSelection() override;
 
 private:
     void markMatches(const QString &searchText);

@@ -54,6 +54,12 @@ Page {
         textView.onTextChanged: controller.PoemPrayerText = surface.text
     }
 
+    PageTurner {
+        anchors.fill: surface
+        surface: surface
+        reader: controller
+    }
+
     footer: ToolBar {
         Material.background: Theme.cellColor
         Material.foreground: "black"

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 ViewController::ViewController(QObject *parent)
-    : ReaderScreen(parent)
+    : PageTurningReader(parent)
 {
 }
 
@@ -28,23 +28,30 @@ void ViewController::setPoemPrayerText(const QString &text)
 {
     if (text == m_PoemPrayerText)
         return;
+    const bool held = holdsPage();
     m_PoemPrayerText = text;
     Q_EMIT PoemPrayerTextChanged();
+    if (held != holdsPage())
+        Q_EMIT turnableChanged();
 }
 
 void ViewController::viewDidLoad()
 {
-    m_title = u"View Poems/Prayers"_s;
     // The reader's first draw may reach the last wallpaper; redraws never do.
     loadAppearance(35);
+    showSelection();
+}
 
+void ViewController::showSelection()
+{
+    m_title = u"View Poems/Prayers"_s;
     Selection &selection = Selection::shared();
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
     selection.setSelectedPoemPrayer(m_CombinedText);
 
     // Another colour code leaves the text view as laid out: empty, in the default look.
-    if (m_appearance.applyTextColor())
-        setPoemPrayerText(selection.selectedPoemPrayer());
+    m_savedText = m_appearance.applyTextColor() ? selection.selectedPoemPrayer() : QString();
+    setPoemPrayerText(m_savedText);
 
     if (const QString greeting = ReaderText::greeting(selection.selectedAmpm()); !greeting.isEmpty())
         m_title = greeting;
@@ -71,6 +78,11 @@ void ViewController::SavePoem()
 
 void ViewController::save()
 {
+    // Saved or not (the date may match no page, or several), the user has dealt with the edits.
+    if (holdsPage()) {
+        m_savedText = m_PoemPrayerText;
+        Q_EMIT turnableChanged();
+    }
     const Selection &selection = Selection::shared();
     if (selection.selectedDt().isEmpty())
         return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReaderScreen.h"
+#include "PageTurningReader.h"
 #include "Entities.h"
 
 #include <QObject>
@@ -8,7 +8,7 @@
 
 // Shows one page of the book under its heading and date, in the reader's font, size and colour
 // over a wallpaper; marks it a favourite, saves edits, changes the size and shares it.
-class ViewController : public ReaderScreen
+class ViewController : public PageTurningReader
 {
     Q_OBJECT
     QML_ELEMENT
@@ -40,11 +40,17 @@ Q_SIGNALS:
     // The favourite box should show this state (0 unchecked, 1 checked).
     void favoriteCheckStateRequested(int checkState, bool animated);
 
+protected:
+    void showSelection() override;
+    // A page with edits not yet saved stays open: a turn would lose them.
+    bool holdsPage() const override { return m_PoemPrayerText != m_savedText; }
+
 private:
     void save();
 
     QString m_CombinedText;
     QString m_PoemPrayerText;
+    QString m_savedText; // the text view's content when the page was shown or last saved
     QList<PoemPrayer *> m_Results;
     int m_ResultsCount = 0;
 };

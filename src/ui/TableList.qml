@@ -32,6 +32,13 @@ ListView {
         positionViewAtIndex(chosenRow, ListView.Contain)
     }
 
+    // The same, for the row now open when the reader turned to another page (-1: the one opened).
+    function restoreAt(row: int) {
+        if (row >= 0)
+            chosenRow = row
+        restore()
+    }
+
     anchors.margins: 6
     clip: true
     cacheBuffer: 650

@@ -11,6 +11,7 @@ list(APPEND LARKWELLS_QML
     ui/FontSizeStepper.qml
     ui/ListCell.qml
     ui/NavigationBar.qml
+    ui/PageTurner.qml
     ui/ReaderSurface.qml
     ui/SegmentedControl.qml
     ui/TableList.qml

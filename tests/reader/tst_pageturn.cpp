@@ -1,0 +1,246 @@
+#include "Clock.h"
+#include "PageRows.h"
+#include "PreferenceKeys.h"
+#include "Selection.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+// Turning pages in the real readers: each list's order, the ends, the three ways to turn, the
+// selection a turn leaves, and the list coming back to the page now open.
+class TestPageTurn : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
+    void cleanup() { Clock::set({}); }
+    void turnInPageList_data();
+    void turnInPageList();
+    void turnInSearchResults();
+    void unsavedEditsKeepThePage();
+
+private:
+    QQuickWindow *openReader(QQmlApplicationEngine &engine, const QString &coverButton, const QString &segment, int row,
+                             const QString &reader);
+};
+
+namespace {
+// January 1 and 2, morning and night; the night of the 1st and the morning of the 2nd are favourites.
+const QStringList pages{u"January 1|AM|1|1|1|F|Frost on the gate"_s, u"January 1|PM|1|1|2|T|Lamps along the lane"_s,
+                        u"January 2|AM|1|2|3|T|Bread rising"_s, u"January 2|PM|1|2|4|F|The owl at the window"_s,
+                        u"February 3|AM|2|3|67|F|Snowdrops in the lane"_s};
+
+QQuickItem *visible(QQuickWindow *window, const QString &name)
+{
+    return findVisibleItem(window->contentItem(), name);
+}
+
+// Left/right slide of a finger across the middle of the text.
+void swipe(QQuickWindow *window, int direction)
+{
+    static QPointingDevice *finger = QTest::createTouchDevice();
+    const QPoint middle(window->width() / 2, window->height() / 2);
+    const int step = -direction * window->width() / 20;
+    QTest::touchEvent(window, finger).press(0, middle, window);
+    for (int i = 1; i <= 8; ++i) {
+        QTest::touchEvent(window, finger).move(0, middle + QPoint(step * i, 0), window);
+        QTest::qWait(10);
+    }
+    QTest::touchEvent(window, finger).release(0, middle + QPoint(step * 8, 0), window);
+}
+
+void turn(QQuickWindow *window, const QString &how, int direction)
+{
+    if (how == u"button")
+        click(window, visible(window, direction < 0 ? u"PreviousPageButton"_s : u"NextPageButton"_s));
+    else if (how == u"key")
+        QTest::keyClick(window, direction < 0 ? Qt::Key_Left : Qt::Key_Right);
+    else
+        swipe(window, direction);
+}
+
+qint64 reviewCount()
+{
+    return UserDefaults::standard().integerForKey(PreferenceKeys::reviewWorthyActionCount.name);
+}
+}
+
+QQuickWindow *TestPageTurn::openReader(QQmlApplicationEngine &engine, const QString &coverButton,
+                                       const QString &segment, int row, const QString &reader)
+{
+    QQuickWindow *window = loadMainWindow(engine);
+    if (!window)
+        return nullptr;
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, coverButton));
+    if (!segment.isEmpty())
+        click(window, waitForItem(window, segment));
+    click(window, waitForItem(window, u"row-%1"_s.arg(row)));
+    return QTest::qWaitFor([&] { return topPage(window) == reader; }) ? window : nullptr;
+}
+
+void TestPageTurn::turnInPageList_data()
+{
+    QTest::addColumn<QString>("coverButton");
+    QTest::addColumn<QString>("segment");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<QString>("page");      // the page turned to: dt|ampm|month|day|pagenum|favorite
+    QTest::addColumn<int>("listRow");       // its row in the list, back there
+    QTest::addColumn<bool>("hasPrevious");  // after the turn
+    QTest::addColumn<bool>("hasNext");
+
+    QTest::newRow("today, to the night page by the arrow")
+        << u"TodayButton"_s << QString() << 0 << u"button"_s << 1 << u"January 1|PM|1|1|2|T"_s << 1 << true << false;
+    QTest::newRow("all, across a day by the key")
+        << u"TodayButton"_s << u"segment-All"_s << 1 << u"key"_s << 1 << u"January 2|AM|1|2|3|T"_s << 2 << true << true;
+    QTest::newRow("all, back to the first page by a swipe")
+        << u"TodayButton"_s << u"segment-All"_s << 1 << u"swipe"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << false << true;
+    QTest::newRow("mornings skip the nights")
+        << u"GoodMorningButton"_s << QString() << 1 << u"key"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << false << true;
+    QTest::newRow("nights skip the mornings")
+        << u"GoodNightButton"_s << QString() << 0 << u"swipe"_s << 1 << u"January 2|PM|1|2|4|F"_s << 1 << true << false;
+    QTest::newRow("favourites only")
+        << u"FavoritesButton"_s << QString() << 0 << u"button"_s << 1 << u"January 2|AM|1|2|3|T"_s << 1 << true << false;
+}
+
+void TestPageTurn::turnInPageList()
+{
+    QFETCH(QString, coverButton);
+    QFETCH(QString, segment);
+    QFETCH(int, row);
+    QFETCH(QString, how);
+    QFETCH(int, direction);
+    QFETCH(QString, page);
+    QFETCH(int, listRow);
+    QFETCH(bool, hasPrevious);
+    QFETCH(bool, hasNext);
+    TestEnvironment environment;
+    Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(21, 0)); });
+    UserDefaults &defaults = UserDefaults::standard();
+    defaults.set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    // A wallpaper drawn at random, so that a second draw would show.
+    defaults.set(u"useWallpaper"_s, 1);
+    for (int i = 1; i <= 35; ++i)
+        defaults.set(u"Page%1"_s.arg(i), u"true"_s);
+    insertPages(pages);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openReader(engine, coverButton, segment, row, u"View"_s);
+    QVERIFY(window);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    const QUrl wallpaper = visible(window, u"img"_s)->property("source").toUrl();
+    const qint64 reviewsBefore = reviewCount();
+
+    turn(window, how, direction);
+    const QStringList expected = page.split(u'|');
+    const QString body = pages.filter(page).first().section(u'|', 6);
+    const QString greeting = expected[1] == u"AM" ? u" Good Morning"_s : u" Good Night"_s;
+    const QString composed = u"\nFrom The Larkwells\n"_s + greeting + u"\n\n"_s + expected[0] + u"\n\n"_s + body;
+    QTRY_COMPARE(text->property("text").toString(), composed);
+
+    const Selection &selection = Selection::shared();
+    QCOMPARE(selection.selectedDt(), expected[0]);
+    QCOMPARE(selection.selectedAmpm(), expected[1]);
+    QCOMPARE(selection.selectedMonth(), expected[2].toShort());
+    QCOMPARE(selection.selectedDay(), expected[3].toShort());
+    QCOMPARE(selection.selectedPagenum(), expected[4].toShort());
+    QCOMPARE(selection.selectedFavorite(), expected[5]);
+    QCOMPARE(selection.selectedPoemPrayer(), composed);
+    QCOMPARE(reviewCount(), reviewsBefore + 1); // the review rule ran for the new page
+    QCOMPARE(visible(window, u"img"_s)->property("source").toUrl(), wallpaper);
+    QTRY_COMPARE(visible(window, u"FavoriteCheckBox"_s)->property("checkState").toInt(), expected[5] == u"T" ? 1 : 0);
+    QCOMPARE(visible(window, u"PreviousPageButton"_s)->isEnabled(), hasPrevious);
+    QCOMPARE(visible(window, u"NextPageButton"_s)->isEnabled(), hasNext);
+
+    // At the end, neither the key nor a swipe goes further.
+    if (!hasNext || !hasPrevious) {
+        const int beyond = hasNext ? -1 : 1;
+        QTest::keyClick(window, beyond < 0 ? Qt::Key_Left : Qt::Key_Right);
+        swipe(window, beyond);
+        QTest::qWait(100);
+        QCOMPARE(selection.selectedDt(), expected[0]);
+        QCOMPARE(selection.selectedAmpm(), expected[1]);
+    }
+
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+    QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), listRow);
+}
+
+void TestPageTurn::turnInSearchResults()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    insertPages(pages);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
+    click(window, waitForItem(window, u"ControlButton"_s));
+    click(window, waitForItem(window, u"SearchButton"_s));
+    QQuickItem *field = waitForItem(window, u"searchField"_s);
+    QTRY_VERIFY(field->hasActiveFocus());
+    click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
+    field->forceActiveFocus();
+    for (const char letter : {'l', 'a', 'n', 'e'})
+        QTest::keyClick(window, letter);
+    QTRY_COMPARE(visible(window, u"matchCount"_s)->property("text").toString(), u"2 pages match"_s);
+    click(window, waitForItem(window, u"row-0"_s));
+    QTRY_COMPARE(topPage(window), u"SearchView"_s);
+    QVERIFY(!visible(window, u"PreviousPageButton"_s)->isEnabled());
+
+    // The second result, not the next page of the book.
+    QTest::keyClick(window, Qt::Key_Right);
+    const Selection &selection = Selection::shared();
+    QTRY_COMPARE(selection.selectedDt(), u"February 3"_s);
+    QCOMPARE(selection.selectedAmpm(), u"AM"_s);
+    QCOMPARE(selection.selectedPagenum(), qint16(67));
+    QCOMPARE(selection.selectedSearchText(), u"lane"_s);
+    QCOMPARE(selection.selectedPoemPrayer(),
+             u"\n\nFrom The Larkwells\n Good Morning\n\nFebruary 3\n\nSnowdrops in the lane"_s);
+    QTRY_VERIFY(visible(window, u"PoemPrayerTextView"_s)->property("text").toString().contains(u"Snowdrops"_s));
+    QVERIFY(visible(window, u"PreviousPageButton"_s)->isEnabled());
+    QVERIFY(!visible(window, u"NextPageButton"_s)->isEnabled());
+
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
+    QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), 1);
+}
+
+// Typing changes the page: the caret keeps the arrow keys, and the page stays until it is saved.
+void TestPageTurn::unsavedEditsKeepThePage()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    insertPages(pages);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openReader(engine, u"GoodMorningButton"_s, QString(), 0, u"View"_s);
+    QVERIFY(window);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QQuickItem *next = visible(window, u"NextPageButton"_s);
+    QTRY_VERIFY(next->isEnabled());
+
+    text->forceActiveFocus();
+    QTest::keyClick(window, Qt::Key_Right);
+    QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s); // the caret moved, the page did not
+    QTest::keyClick(window, 'x');
+    QTRY_VERIFY(!next->isEnabled());
+    click(window, next);
+    QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s);
+
+    click(window, visible(window, u"SaveButton"_s));
+    QTRY_VERIFY(next->isEnabled());
+    click(window, next);
+    QTRY_COMPARE(Selection::shared().selectedDt(), u"January 2"_s);
+    QVERIFY(!text->hasActiveFocus());
+}
+
+QTEST_MAIN(TestPageTurn)
+#include "tst_pageturn.moc"
