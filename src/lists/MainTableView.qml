@@ -52,35 +52,25 @@ Page {
         BarButton {
             id: goToDateButton
             objectName: "GoToDateButton"
-            text: qsTr("Go to Date")
             // On a phone the bar has room for a small calendar only.
             readonly property bool compact: root.width < 600
-            contentItem: Item {
-                implicitWidth: goToDateButton.compact ? 24 : dateLabel.implicitWidth
-                implicitHeight: dateLabel.implicitHeight
-                Label {
-                    id: dateLabel
-                    anchors.centerIn: parent
-                    visible: !goToDateButton.compact
-                    text: goToDateButton.text
-                    font: goToDateButton.font
-                    color: Theme.tint
-                }
+            text: compact ? "" : qsTr("Go to Date")
+            Accessible.name: qsTr("Go to Date")
+            implicitWidth: compact ? 40 : implicitContentWidth + leftPadding + rightPadding
+            Rectangle {
+                anchors.centerIn: parent
+                visible: goToDateButton.compact
+                width: 22
+                height: 20
+                radius: 3
+                color: "white"
+                border.width: 2
+                border.color: Theme.tint
                 Rectangle {
-                    anchors.centerIn: parent
-                    visible: goToDateButton.compact
-                    width: 22
-                    height: 20
+                    width: parent.width
+                    height: 7
                     radius: 3
-                    color: "white"
-                    border.width: 2
-                    border.color: Theme.tint
-                    Rectangle {
-                        width: parent.width
-                        height: 7
-                        radius: 3
-                        color: Theme.tint
-                    }
+                    color: Theme.tint
                 }
             }
             onClicked: datePicker.show(controller.today())

@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Controls
 import Larkwells
 
 // Turns a reader's page: two small arrows at the foot of the text, Left and Right while the text
