@@ -2,9 +2,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Larkwells
 
-// Turns a reader's page: two small arrows at the foot of the text, Left and Right while the text
-// is not being edited, and a sideways swipe. The page turned to slides in from its side. Lay it
-// over the reader's surface.
+// Turns a reader's page: two small arrows at the foot of the text, Left and Right while the
+// text does not have the keyboard, and a sideways swipe. The page turned to slides in from its
+// side. Lay it over the reader's surface.
 Item {
     id: turner
     required property ReaderSurface surface
@@ -47,15 +47,16 @@ Item {
         }
     }
 
-    // The caret keeps the arrow keys while the text is edited.
+    // While the text has the keyboard the arrow keys move its caret: for editing, and for reading
+    // letter by letter with a screen reader.
     Shortcut {
         sequences: ["Left"]
-        enabled: turner.visible && !(turner.surface.textView.activeFocus && !turner.surface.readOnly)
+        enabled: turner.visible && !turner.surface.textView.activeFocus
         onActivated: turner.turn(-1)
     }
     Shortcut {
         sequences: ["Right"]
-        enabled: turner.visible && !(turner.surface.textView.activeFocus && !turner.surface.readOnly)
+        enabled: turner.visible && !turner.surface.textView.activeFocus
         onActivated: turner.turn(1)
     }
 
