@@ -25,7 +25,7 @@ Page {
         title: qsTr("Choose a Backup of Your Writing")
         fileMode: FileDialog.OpenFile
         currentFolder: Sharing.documentsFolder
-        nameFilters: [qsTr("Writing backups (*.json)"), qsTr("All files (*)")]
+        nameFilters: [qsTr("Backups (*.json)"), qsTr("All files (*)")]
         onAccepted: controller.documentPicker(selectedFile)
     }
 
