@@ -12,8 +12,6 @@
 #include "UpdateFileTarget.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <QQmlEngine>
 #include <QStringDecoder>
 #include <QTimer>
 
@@ -27,18 +25,6 @@ void presentImportAlert(const QString &message)
                                   Log::line(u"Back button Clicked"_s);
                                   Navigator::shared().unwind(u"unwindToAboutSegue"_s);
                               }});
-}
-
-// The picker's own page is built on the folder list module; without it the picker cannot open.
-bool filePickerInstalled(const QQmlEngine *engine)
-{
-    if (!engine)
-        return true;
-    for (const QString &path : engine->importPathList()) {
-        if (QFileInfo::exists(path + u"/Qt/labs/folderlistmodel/qmldir"_s))
-            return true;
-    }
-    return false;
 }
 
 // A byte-order mark names the encoding; without one the text must be UTF-8.
@@ -68,15 +54,8 @@ void AboutImportViewController::setImportTextView(const QString &text)
 
 void AboutImportViewController::viewDidLoad()
 {
-    if (!filePickerInstalled(qmlEngine(this))) {
-        Log::line(u"The file picker needs the QML module Qt.labs.folderlistmodel "
-                  "(Debian package qml6-module-qt-labs-folderlistmodel)."_s);
-        Alerts::shared().present({u"No File Picker"_s,
-                                  u"Choosing a file needs the package qml6-module-qt-labs-folderlistmodel."_s,
-                                  {u"OK"_s}, {}});
-        return;
-    }
-    Q_EMIT documentPickerRequested();
+    if (UpdateFileTarget::filePickerAvailable(this))
+        Q_EMIT documentPickerRequested();
 }
 
 void AboutImportViewController::documentPicker(const QUrl &didPickDocumentAt)

@@ -1,16 +1,33 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Dialogs
 import QtQuick.Layouts
 import Larkwells
 
-// The export menu: one button for each kind of update file.
+// The export menu: one button for each kind of update file, and the reader's own writing backed
+// up to a file or restored from one.
 Page {
     id: root
     objectName: "ExportLarkwellFilesView"
     title: qsTr("Update Files")
 
     ExportLarkwellFilesViewController { id: controller }
+
+    Connections {
+        target: controller
+        function onDocumentPickerRequested() { documentPicker.open() }
+    }
+
+    FileDialog {
+        id: documentPicker
+        objectName: "documentPicker"
+        title: qsTr("Choose a Backup of Your Writing")
+        fileMode: FileDialog.OpenFile
+        currentFolder: Sharing.documentsFolder
+        nameFilters: [qsTr("Backups (*.json)"), qsTr("All files (*)")]
+        onAccepted: controller.documentPicker(selectedFile)
+    }
 
     header: NavigationBar {
         title: root.title
@@ -40,6 +57,19 @@ Page {
             Layout.fillWidth: true
             text: qsTr("About")
             onClicked: controller.AboutButtonClicked()
+        }
+        UpdateFileButton {
+            objectName: "BackUpButton"
+            Layout.fillWidth: true
+            Layout.topMargin: 16
+            text: qsTr("Back Up My Writing")
+            onClicked: controller.BackUpButtonClicked()
+        }
+        UpdateFileButton {
+            objectName: "RestoreButton"
+            Layout.fillWidth: true
+            text: qsTr("Restore My Writing…")
+            onClicked: controller.RestoreButtonClicked()
         }
     }
 }

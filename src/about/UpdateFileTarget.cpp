@@ -4,8 +4,12 @@
 #include "Bundle.h"
 #include "Sharing.h"
 
+#include "Log.h"
+
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QQmlEngine>
 #include <QSaveFile>
 
 using namespace Qt::StringLiterals;
@@ -42,4 +46,22 @@ void UpdateFileTarget::mail(const QString &path, const QString &fileName, const 
     }
     const bool attachable = QFile(path).open(QIODevice::ReadOnly);
     Sharing::shared().composeMail({subject, body, attachable ? path : QString(), u"txt"_s, fileName});
+}
+
+bool UpdateFileTarget::filePickerAvailable(const QObject *controller)
+{
+    // The picker's own page is built on the folder list module; without it the picker cannot open.
+    const QQmlEngine *engine = qmlEngine(controller);
+    if (!engine)
+        return true;
+    for (const QString &path : engine->importPathList()) {
+        if (QFileInfo::exists(path + u"/Qt/labs/folderlistmodel/qmldir"_s))
+            return true;
+    }
+    Log::line(u"The file picker needs the QML module Qt.labs.folderlistmodel "
+              "(Debian package qml6-module-qt-labs-folderlistmodel)."_s);
+    Alerts::shared().present({u"No File Picker"_s,
+                              u"Choosing a file needs the package qml6-module-qt-labs-folderlistmodel."_s,
+                              {u"OK"_s}, {}});
+    return false;
 }

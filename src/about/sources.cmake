@@ -12,6 +12,8 @@ list(APPEND LARKWELLS_SOURCES
     about/ExportViewController.h about/ExportViewController.cpp
     about/SpecialDaysExportViewController.h about/SpecialDaysExportViewController.cpp
     about/UpdateFileTarget.h about/UpdateFileTarget.cpp
+    about/WritingBackup.h about/WritingBackup.cpp
+    about/WritingRestore.h about/WritingRestore.cpp
 )
 list(APPEND LARKWELLS_QML
     about/AboutEditView.qml

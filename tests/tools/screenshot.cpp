@@ -2,7 +2,7 @@
 //   larkwells_screenshot --data-dir DIR --size 360x640 STEP...
 // Steps run in order: segue:ID (open a screen), click:NAME (click the visible item with that
 // object name), key:NAME (a key, e.g. Escape, Tab, Space), type:TEXT, dismiss:BUTTON (answer
-// the open alerts), wait:MS, shot:FILE.png.
+// the open alerts), pick:FILE (choose the file in the open file dialog), wait:MS, shot:FILE.png.
 #include "Alerts.h"
 #include "AppDelegate.h"
 #include "Navigator.h"
@@ -49,6 +49,16 @@ bool runStep(QQuickWindow *window, const QString &step)
     } else if (kind == u"dismiss"_s) {
         while (Alerts::shared().showing())
             Alerts::shared().dismiss(argument.toInt());
+    } else if (kind == u"pick"_s) {
+        const QList<QObject *> objects = window->findChildren<QObject *>();
+        const auto dialog = std::find_if(objects.cbegin(), objects.cend(), [](const QObject *object) {
+            return object->inherits("QQuickFileDialogImpl") && object->property("visible").toBool();
+        });
+        if (dialog == objects.cend() || !(*dialog)->setProperty("selectedFile", QUrl::fromLocalFile(argument))
+            || !QMetaObject::invokeMethod(*dialog, "accept")) {
+            std::fprintf(stderr, "no file dialog to choose %s in\n", qPrintable(argument));
+            return false;
+        }
     } else if (kind == u"wait"_s) {
         settle(argument.toInt());
     } else if (kind == u"shot"_s) {

@@ -1,0 +1,264 @@
+#include "Alerts.h"
+#include "ExportLarkwellFilesViewController.h"
+#include "PreferenceKeys.h"
+#include "StoreSnapshots.h"
+#include "WritingBackup.h"
+#include "WritingRows.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QString goldenPath(const QString &name)
+{
+    return QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name;
+}
+
+QByteArray golden(const QString &name)
+{
+    QFile file(goldenPath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing golden file");
+}
+
+QByteArray backupNow()
+{
+    return WritingBackup::toJson(
+        WritingBackup::collect(AppDelegate::shared().viewContext(), WritingBackup::shippedPageTexts()));
+}
+
+void setPage(int month, int day, const QString &ampm, const std::optional<QString> &favorite,
+             const std::optional<QString> &text)
+{
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    FetchRequest request = PoemPrayer::fetchRequest();
+    request.predicate = Predicate::conjunction({Predicate::equals(u"month"_s, month), Predicate::equals(u"day"_s, day),
+                                                Predicate::equals(u"ampm"_s, ampm)});
+    PoemPrayer *page = context.fetch<PoemPrayer>(request).value(0);
+    QVERIFY(page);
+    if (favorite)
+        page->setFavorite(favorite);
+    if (text)
+        page->setPoemprayer(text);
+    context.save();
+}
+
+// Everything the store holds that a backup covers, the book filled and changed by the reader.
+void writeSomeWriting()
+{
+    seedSmallBook();
+    setPage(1, 1, u"AM"_s, u"T"_s, {});
+    setPage(1, 1, u"PM"_s, {}, u"The lamp is low\nand the door is shut"_s);
+    setPage(1, 2, u"AM"_s, u"T"_s, u"Bread and a blue cup\n“Stay,” she said."_s);
+    insertNotes({u"Snow day|Walked to the lake\nthen home|2026-01-01T08:00:00Z"_s, u"Évening|Quiet|2026-01-01T21:30:00Z"_s});
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    About *prayer = context.insertNewObject<About>();
+    prayer->setName(u"My Prayer"_s);
+    prayer->setAboutText(u"Hold this house.\nKeep the lamp lit."_s);
+    context.save();
+}
+
+// The menu's restore, as the picker hands it a file; the alert it raised.
+QString pick(ExportLarkwellFilesViewController &menu, const QString &path)
+{
+    menu.documentPicker(QUrl::fromLocalFile(path));
+    return Alerts::shared().message();
+}
+
+void dismissAlerts()
+{
+    while (Alerts::shared().showing())
+        Alerts::shared().dismiss(0);
+}
+}
+
+// The backup file against golden files, files that must be refused, and restores merged into
+// stores in different states.
+class TestWritingBackup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { dismissAlerts(); }
+    void backupMatchesGoldenFile();
+    void restoreOntoAFreshBookGivesTheSameBackup();
+    void refusedFilesWriteNothing_data();
+    void refusedFilesWriteNothing();
+    void restoreMerges_data();
+    void restoreMerges();
+    void cancelledRestoreWritesNothing();
+};
+
+void TestWritingBackup::backupMatchesGoldenFile()
+{
+    TestEnvironment environment;
+    shipSmallBook(environment);
+    writeSomeWriting();
+    QCOMPARE(QString::fromUtf8(backupNow()), QString::fromUtf8(golden(u"writing.json"_s)));
+}
+
+void TestWritingBackup::restoreOntoAFreshBookGivesTheSameBackup()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(WritingBackup::fileName);
+    QByteArray before;
+    {
+        TestEnvironment environment;
+        shipSmallBook(environment);
+        writeSomeWriting();
+        before = backupNow();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(before);
+    }
+    TestEnvironment environment;
+    shipSmallBook(environment);
+    seedSmallBook();
+    ExportLarkwellFilesViewController menu;
+    QCOMPARE(pick(menu, path), u"2 notes, 2 favourites, 2 pages, 1 article will be restored"_s);
+    Alerts::shared().dismiss(1);
+    QCOMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
+    QCOMPARE(QString::fromUtf8(backupNow()), QString::fromUtf8(before));
+}
+
+void TestWritingBackup::refusedFilesWriteNothing_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("message");
+
+    const QString damaged = u"This backup is damaged: %1. Nothing was restored."_s;
+    const QByteArray head = R"({"format": "LarkwellsWriting", "version": 1, "notes": [], "favorites": [], )";
+    QTest::newRow("plain text") << QByteArray("[ABOUT]\nWelcome^Hello\n")
+                                << u"This file is not a backup of your writing. Nothing was restored."_s;
+    QTest::newRow("newer version") << QByteArray(R"({"format": "LarkwellsWriting", "version": 2})")
+                                   << u"This backup was made by a newer version of The Larkwells Book. Nothing was restored."_s;
+    QTest::newRow("cut short") << golden(u"merge.json"_s).left(400)
+                               << damaged.arg(u"invalid termination by number at byte 400"_s);
+    QTest::newRow("articles missing") << head + R"("pages": []})" << damaged.arg(u"the articles are missing"_s);
+    QTest::newRow("month 13 on the last page")
+        << head + R"("pages": [{"month": 1, "day": 1, "ampm": "AM", "poemprayer": "x"},
+                               {"month": 13, "day": 1, "ampm": "AM", "poemprayer": "x"}], "articles": []})"
+        << damaged.arg(u"page 2 has a month that is not a number from 1 to 12"_s);
+    QTest::newRow("neither morning nor night")
+        << QByteArray(R"({"format": "LarkwellsWriting", "version": 1, "notes": [],
+                          "favorites": [{"month": 1, "day": 1, "ampm": "Noon"}], "pages": [], "articles": []})")
+        << damaged.arg(u"favourite 1 has an ampm that is neither AM nor PM"_s);
+    QTest::newRow("note with a wrong date")
+        << QByteArray(R"({"format": "LarkwellsWriting", "version": 1, "favorites": [], "pages": [], "articles": [],
+                          "notes": [{"subject": "a", "dt": "yesterday"}]})")
+        << damaged.arg(u"note 1 has a dt that is not a date"_s);
+}
+
+void TestWritingBackup::refusedFilesWriteNothing()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, message);
+    TestEnvironment environment;
+    shipSmallBook(environment);
+    writeSomeWriting();
+    const QStringList before = storedWriting();
+    QTemporaryDir folder;
+    QFile picked(folder.filePath(u"picked.json"_s));
+    QVERIFY(picked.open(QIODevice::WriteOnly));
+    picked.write(file);
+    picked.close();
+
+    ExportLarkwellFilesViewController menu;
+    QCOMPARE(pick(menu, picked.fileName()), message);
+    QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+    Alerts::shared().dismiss(0);
+    QVERIFY(!Alerts::shared().showing());
+    QCOMPARE(storedWriting(), before);
+    QVERIFY(StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+}
+
+void TestWritingBackup::restoreMerges_data()
+{
+    QTest::addColumn<bool>("aboutListOpened");
+    QTest::addColumn<QStringList>("notesHere");
+    QTest::addColumn<bool>("changedHere"); // a favourite, a page and the shipped article changed here
+    QTest::addColumn<QString>("summary");
+    QTest::addColumn<QStringList>("writing");
+
+    const QStringList notes{u"note Snow day: Walked to the lake"_s, u"note Evening: Quiet"_s};
+    const QString firstPage = u"page January 1 AM ♥: Frost on the gate\nand my own line"_s;
+    const QString firstNight = u"page January 1 PM: The lamp is low\nand the door is shut"_s;
+    const QString secondPage = u"page January 2 AM ♥: Bread and a blue cup"_s;
+    const QString prayer = u"article My Prayer: Hold this house."_s;
+
+    QTest::newRow("onto the book as shipped")
+        << true << QStringList() << false << u"2 notes, 2 favourites, 2 pages, 2 articles will be restored"_s
+        << notes + QStringList{firstPage, firstNight, secondPage,
+                               u"article Welcome: Read a page a day.\nKeep it close."_s, prayer};
+    QTest::newRow("a note already here, a page and an article changed here")
+        << true << QStringList{u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s} << true
+        << u"1 note, 1 favourite, 1 page, 1 article will be restored\n\nAlready here: 2 notes.\n\n"
+           "Changed here, so kept as they are: 1 page, 1 article."_s
+        << notes + QStringList{firstPage, u"page January 1 PM: My own lamp"_s, secondPage,
+                               u"article Welcome: My welcome"_s, prayer};
+    QTest::newRow("the about list never opened")
+        << false << QStringList() << false << u"2 notes, 2 favourites, 2 pages, 2 articles will be restored"_s
+        << notes + QStringList{firstPage, firstNight, secondPage,
+                               u"article Welcome: Read a page a day.\nKeep it close."_s, prayer};
+}
+
+void TestWritingBackup::restoreMerges()
+{
+    QFETCH(bool, aboutListOpened);
+    QFETCH(QStringList, notesHere);
+    QFETCH(bool, changedHere);
+    QFETCH(QString, summary);
+    QFETCH(QStringList, writing);
+    TestEnvironment environment;
+    shipSmallBook(environment);
+    seedSmallBook();
+    Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, aboutListOpened);
+    if (!aboutListOpened) {
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        for (About *article : context.fetch<About>(About::fetchRequest()))
+            context.deleteObject(article);
+        context.save();
+    }
+    insertNotes(notesHere);
+    if (changedHere) {
+        setPage(1, 2, u"AM"_s, u"T"_s, {});
+        setPage(1, 1, u"PM"_s, {}, u"My own lamp"_s);
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        context.fetch<About>(About::fetchRequest()).first()->setAboutText(u"My welcome"_s);
+        context.save();
+    }
+
+    ExportLarkwellFilesViewController menu;
+    QCOMPARE(pick(menu, goldenPath(u"merge.json"_s)), summary);
+    QCOMPARE(Alerts::shared().buttons(), (QStringList{u"Cancel"_s, u"Restore"_s}));
+    Alerts::shared().dismiss(1);
+    QCOMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
+    Alerts::shared().dismiss(0);
+    QVERIFY(!StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+    QCOMPARE(storedWriting(), writing);
+    // The list's first visit must not empty the restored articles.
+    QVERIFY(Preferences::boolForKey(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag));
+
+    // A second restore of the same file finds nothing left to do.
+    QVERIFY(pick(menu, goldenPath(u"merge.json"_s)).startsWith(u"Everything in this backup is already here."_s));
+    QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+    Alerts::shared().dismiss(0);
+    QCOMPARE(storedWriting(), writing);
+}
+
+void TestWritingBackup::cancelledRestoreWritesNothing()
+{
+    TestEnvironment environment;
+    shipSmallBook(environment);
+    seedSmallBook();
+    const QStringList before = storedWriting();
+    ExportLarkwellFilesViewController menu;
+    pick(menu, goldenPath(u"merge.json"_s));
+    Alerts::shared().dismiss(0);
+    QVERIFY(!Alerts::shared().showing());
+    QCOMPARE(storedWriting(), before);
+    QVERIFY(StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+}
+
+QTEST_MAIN(TestWritingBackup)
+#include "tst_writingbackup.moc"
