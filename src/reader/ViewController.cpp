@@ -39,6 +39,7 @@ void ViewController::viewDidLoad()
     loadAppearance(35);
 
     Selection &selection = Selection::shared();
+    m_appearance.setNightPage(selection.selectedAmpm() == u"PM"_s);
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
     selection.setSelectedPoemPrayer(m_CombinedText);
 
