@@ -41,8 +41,11 @@ void ReadAloud::play(const QString &text)
     }
     if (!available() || text.trimmed().isEmpty())
         return;
+    // Rich text hands over its line breaks as separators a voice does not know.
+    QString plain = text;
+    plain.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
     m_started = true;
-    Speech::shared().say(text, QLocale(), Preferences::doubleOrAbsent(PreferenceKeys::ReadAloudRate));
+    Speech::shared().say(plain, QLocale(), Preferences::doubleOrAbsent(PreferenceKeys::ReadAloudRate));
 }
 
 void ReadAloud::pause()
