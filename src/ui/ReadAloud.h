@@ -10,7 +10,7 @@ class ReadAloud : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Each reader screen owns its Read Aloud")
-    Q_PROPERTY(bool available READ available CONSTANT)
+    Q_PROPERTY(bool available READ available NOTIFY stateChanged)
     Q_PROPERTY(bool speaking READ speaking NOTIFY stateChanged)
     Q_PROPERTY(bool paused READ paused NOTIFY stateChanged)
 
