@@ -9,7 +9,7 @@ packages=(
   cmake g++ ninja-build pkg-config python3 ccache
   # Qt 6 toolkit, headers and tools
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev
-  qt6-tools-dev qt6-l10n-tools libgl-dev libfontconfig-dev
+  qt6-tools-dev qt6-l10n-tools libgl-dev libfontconfig-dev qt6-speech-dev
   # tests: Qt Quick Test, a real window without a display, benchmarks
   qml6-module-qttest xvfb xauth libbenchmark-dev
   # tests: a screen reader's view of the running application (AT-SPI over a session bus)

@@ -17,6 +17,10 @@ Page {
     header: NavigationBar {
         title: controller.title
         onBackClicked: controller.BackToAboutMain()
+        ReadAloudButton {
+            readAloud: controller.readAloud
+            surface: surface
+        }
         BarButton {
             objectName: "DoneButton"
             visible: surface.textView.activeFocus

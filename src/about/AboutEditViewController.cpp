@@ -44,6 +44,7 @@ void AboutEditViewController::viewDidLoad()
     loadAppearance(34);
 
     Selection &selection = Selection::shared();
+    m_appearance.setNightPage(selection.selectedAboutName().contains(u"Good Night"_s));
     m_AboutText = composedText(selection.selectedAboutName(), selection.selectedAboutText());
     selection.setSelectedAboutText(m_AboutText);
 

@@ -11,6 +11,7 @@ list(APPEND LARKWELLS_SOURCES
     platform/Navigator.h platform/Navigator.cpp
     platform/ReviewRequest.h platform/ReviewRequest.cpp
     platform/Sharing.h platform/Sharing.cpp
+    platform/Speech.h platform/Speech.cpp
     platform/UserDefaults.h platform/UserDefaults.cpp
 )
 list(APPEND LARKWELLS_QML

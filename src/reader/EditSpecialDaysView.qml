@@ -18,6 +18,10 @@ Page {
     header: NavigationBar {
         title: controller.title
         onBackClicked: controller.BackToSpecialDays()
+        ReadAloudButton {
+            readAloud: controller.readAloud
+            surface: surface
+        }
         BarButton {
             objectName: "DoneButton"
             visible: surface.textView.activeFocus

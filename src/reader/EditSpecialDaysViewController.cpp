@@ -45,6 +45,7 @@ void EditSpecialDaysViewController::viewDidLoad()
     loadAppearance(34, defaultFontSize);
 
     Selection &selection = Selection::shared();
+    m_appearance.setNightPage(selection.selectedSpecialAmpm() == u"PM"_s);
     m_SpecialDayName = heading(selection.selectedSpecialAmpm(), selection.selectedSpecialDayName());
     m_SpecialDayText = m_SpecialDayName + selection.selectedSpecialPoem();
     selection.setSelectedSpecialPoem(m_SpecialDayText);

@@ -38,6 +38,10 @@ Page {
     header: NavigationBar {
         title: controller.title
         onBackClicked: Navigator.unwind("unwindSegue")
+        ReadAloudButton {
+            readAloud: controller.readAloud
+            surface: surface
+        }
     }
 
     background: Rectangle { color: Theme.readerBackground }

@@ -39,16 +39,18 @@ QList<SearchViewController::Range> SearchViewController::matchRanges(const QStri
     return ranges;
 }
 
-QString SearchViewController::markedText(const QString &text, const QList<Range> &ranges)
+QString SearchViewController::markedText(const QString &text, const QList<Range> &ranges, const QColor &markTextColor)
 {
     const auto escaped = [&text](qsizetype from, qsizetype length) {
         return text.mid(from, length).toHtmlEscaped().replace(u'\n', u"<br/>"_s);
     };
+    const QString markStyle = markTextColor.isValid() ? u"background-color:#ffff00;color:%1"_s.arg(markTextColor.name())
+                                                      : u"background-color:#ffff00"_s;
     QString html = u"<div style=\"white-space:pre-wrap\">"_s;
     qsizetype at = 0;
     for (const Range &range : ranges) {
         html += escaped(at, range.start - at);
-        html += u"<span style=\"background-color:#ffff00\">"_s + escaped(range.start, range.length) + u"</span>"_s;
+        html += u"<span style=\""_s + markStyle + u"\">"_s + escaped(range.start, range.length) + u"</span>"_s;
         at = range.start + range.length;
     }
     return html + escaped(at, -1) + u"</div>"_s;
@@ -65,6 +67,7 @@ void SearchViewController::viewDidLoad()
 void SearchViewController::showSelection()
 {
     Selection &selection = Selection::shared();
+    m_appearance.setNightPage(selection.selectedAmpm() == u"PM"_s);
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
     selection.setSelectedPoemPrayer(m_CombinedText);
 
@@ -73,7 +76,8 @@ void SearchViewController::showSelection()
     m_ranges.clear();
     if (!selection.selectedSearchText().isEmpty())
         markMatches(selection.selectedSearchText());
-    m_PoemPrayerText = markedText(m_shownText, m_ranges);
+    // At night the marks keep their yellow, so the text on them stays dark.
+    m_PoemPrayerText = markedText(m_shownText, m_ranges, m_appearance.night() ? QColor(Qt::black) : QColor());
     Q_EMIT loaded();
 
     if (selection.selectedFavorite() == u"T"_s)

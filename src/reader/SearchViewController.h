@@ -38,8 +38,9 @@ public:
     // Every case-insensitive match of `pattern` in `text`; a pattern that does not compile is a
     // fatal stop.
     static QList<Range> matchRanges(const QString &text, const QString &pattern);
-    // `text` as rich text, line breaks and spaces kept, each range on a yellow background.
-    static QString markedText(const QString &text, const QList<Range> &ranges);
+    // `text` as rich text, line breaks and spaces kept, each range on a yellow background (its text
+    // in `markTextColor` when one is given).
+    static QString markedText(const QString &text, const QList<Range> &ranges, const QColor &markTextColor = {});
 
     Q_INVOKABLE void viewDidLoad();
     // The favourite box changed to `checkState` (0 unchecked, 1 checked, 2 mixed).

@@ -24,6 +24,10 @@ Page {
     header: NavigationBar {
         title: controller.title
         onBackClicked: controller.BackToMain()
+        ReadAloudButton {
+            readAloud: controller.readAloud
+            surface: surface
+        }
         BarButton {
             objectName: "DoneButton"
             visible: surface.textView.activeFocus

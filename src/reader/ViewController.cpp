@@ -46,6 +46,7 @@ void ViewController::showSelection()
 {
     m_title = u"View Poems/Prayers"_s;
     Selection &selection = Selection::shared();
+    m_appearance.setNightPage(selection.selectedAmpm() == u"PM"_s);
     m_CombinedText = composedText(selection.selectedAmpm(), selection.selectedDt(), selection.selectedPoemPrayer());
     selection.setSelectedPoemPrayer(m_CombinedText);
 

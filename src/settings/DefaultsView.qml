@@ -180,6 +180,34 @@ Page {
                 onToggled: controller.PoemViewSwitchChanged(checked)
             }
 
+            WallpaperSwitch {
+                objectName: "NightReadingSwitch"
+                text: qsTr("Night Reading")
+                checked: controller.NightReading
+                onToggled: controller.NightReadingSwitchChanged(checked)
+            }
+            RowLayout {
+                Caption { text: qsTr("Read Aloud Rate") }
+                Slider {
+                    id: rateSlider
+                    objectName: "ReadAloudRateSlider"
+                    Layout.fillWidth: true
+                    from: -1
+                    to: 1
+                    stepSize: 0.1
+                    snapMode: Slider.SnapAlways
+                    value: controller.ReadAloudRate
+                    Accessible.name: qsTr("Read Aloud Rate")
+                    onMoved: controller.ReadAloudRateSliderChanged(value)
+                }
+                Label {
+                    Layout.preferredWidth: 56
+                    color: "black"
+                    font.pixelSize: 15
+                    text: rateSlider.value < -0.05 ? qsTr("Slower") : rateSlider.value > 0.05 ? qsTr("Faster") : qsTr("Normal")
+                }
+            }
+
             SectionTitle { text: qsTr("Lists") }
             RowLayout {
                 Caption { text: qsTr("Font") }

@@ -6,6 +6,7 @@
 
 #include <QFontDatabase>
 #include <QLocale>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +59,7 @@ void DefaultsViewController::viewDidLoad()
     loadSizes();
     loadColor();
     loadWallpaperSwitches();
+    loadReadingComforts();
     m_fontList = QFontDatabase::families();
     filterFonts();
 }
@@ -92,6 +94,13 @@ void DefaultsViewController::loadWallpaperSwitches()
     m_useWallpaper = switchValue(PreferenceKeys::useWallpaper);
     m_ListWallpaperVisible = switchValue(PreferenceKeys::ListWallpaperVisible);
     Q_EMIT wallpaperChanged();
+}
+
+void DefaultsViewController::loadReadingComforts()
+{
+    m_NightReading = Preferences::boolForKey(PreferenceKeys::NightReading);
+    m_ReadAloudRate = Preferences::doubleOrAbsent(PreferenceKeys::ReadAloudRate);
+    Q_EMIT readingComfortsChanged();
 }
 
 QStringList DefaultsViewController::colorTitles() const
@@ -193,6 +202,20 @@ void DefaultsViewController::PoemViewSwitchChanged(bool on)
     m_useWallpaper = on ? 1 : 0;
     Preferences::write(PreferenceKeys::useWallpaper, m_useWallpaper);
     Q_EMIT wallpaperChanged();
+}
+
+void DefaultsViewController::NightReadingSwitchChanged(bool on)
+{
+    m_NightReading = on;
+    Preferences::write(PreferenceKeys::NightReading, on);
+    Q_EMIT readingComfortsChanged();
+}
+
+void DefaultsViewController::ReadAloudRateSliderChanged(double rate)
+{
+    m_ReadAloudRate = std::clamp(rate, -1.0, 1.0);
+    Preferences::write(PreferenceKeys::ReadAloudRate, m_ReadAloudRate);
+    Q_EMIT readingComfortsChanged();
 }
 
 void DefaultsViewController::ListViewerSwitchChanged(bool on)

@@ -26,6 +26,8 @@ class DefaultsViewController : public QObject
     Q_PROPERTY(QColor ColorLabelColor READ ColorLabelColor NOTIFY colorChanged)
     Q_PROPERTY(int useWallpaper READ useWallpaper NOTIFY wallpaperChanged)
     Q_PROPERTY(int ListWallpaperVisible READ ListWallpaperVisible NOTIFY wallpaperChanged)
+    Q_PROPERTY(bool NightReading READ NightReading NOTIFY readingComfortsChanged)
+    Q_PROPERTY(double ReadAloudRate READ ReadAloudRate NOTIFY readingComfortsChanged)
     Q_PROPERTY(Field editingField READ editingField NOTIFY editingFieldChanged)
     Q_PROPERTY(QString fontFilter READ fontFilter WRITE setFontFilter NOTIFY pickerChanged)
     Q_PROPERTY(QStringList FontPickerRows READ FontPickerRows NOTIFY pickerChanged)
@@ -52,6 +54,8 @@ public:
     QColor ColorLabelColor() const;
     int useWallpaper() const { return int(m_useWallpaper); }
     int ListWallpaperVisible() const { return int(m_ListWallpaperVisible); }
+    bool NightReading() const { return m_NightReading; }
+    double ReadAloudRate() const { return m_ReadAloudRate; }
     Field editingField() const { return m_editingField; }
     QString fontFilter() const { return m_fontFilter; }
     void setFontFilter(const QString &filter);
@@ -74,6 +78,9 @@ public:
     Q_INVOKABLE void PoemViewerSegmentChanged(int index);
     Q_INVOKABLE void PoemViewSwitchChanged(bool on);
     Q_INVOKABLE void ListViewerSwitchChanged(bool on);
+    Q_INVOKABLE void NightReadingSwitchChanged(bool on);
+    // The Read Aloud rate slider moved: -1 slowest, 0 normal, 1 fastest.
+    Q_INVOKABLE void ReadAloudRateSliderChanged(double rate);
     Q_INVOKABLE void ListStepperChanged(double value);
     Q_INVOKABLE void ReaderStepperChanged(double value);
     Q_INVOKABLE void AvailableWallpaperButtonClicked();
@@ -84,6 +91,7 @@ Q_SIGNALS:
     void sizesChanged();
     void colorChanged();
     void wallpaperChanged();
+    void readingComfortsChanged();
     void editingFieldChanged();
     void pickerChanged();
 
@@ -92,6 +100,7 @@ private:
     void loadSizes();
     void loadColor();
     void loadWallpaperSwitches();
+    void loadReadingComforts();
     void filterFonts(); // the one place that decides the picker's rows
 
     QString m_FontName;
@@ -105,6 +114,8 @@ private:
     qint64 m_TextColor = 0; // as stored: it may lie outside the segments
     qint64 m_useWallpaper = 0;
     qint64 m_ListWallpaperVisible = 0;
+    bool m_NightReading = false;
+    double m_ReadAloudRate = 0;
     QStringList m_fontList;
     QStringList m_FontPickerRows;
     QString m_fontFilter;

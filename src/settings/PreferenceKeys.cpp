@@ -18,6 +18,8 @@ const PreferenceKey AboutHasBeenLaunchedBeforeFlag{u"AboutHasBeenLaunchedBeforeF
 const PreferenceKey SpecialDayshasBeenLaunchedBeforeFlag{u"SpecialDayshasBeenLaunchedBeforeFlag"_s, Type::Bool, false};
 const PreferenceKey reviewWorthyActionCount{u"reviewWorthyActionCount"_s, Type::Integer, 0};
 const PreferenceKey lastReviewRequestAppVersion{u"lastReviewRequestAppVersion"_s, Type::String, {}};
+const PreferenceKey ReadAloudRate{u"ReadAloudRate"_s, Type::Double, 0.0};
+const PreferenceKey NightReading{u"NightReading"_s, Type::Bool, false};
 
 PreferenceKey wallpaper(const QString &imageName)
 {
@@ -28,7 +30,8 @@ QList<PreferenceKey> all()
 {
     return {FontName, ReaderFontSize, ListFontName, ListFontSize, textColor, useWallpaper,
             ListWallpaperVisible, hasBeenLaunchedBeforeFlag, AboutHasBeenLaunchedBeforeFlag,
-            SpecialDayshasBeenLaunchedBeforeFlag, reviewWorthyActionCount, lastReviewRequestAppVersion};
+            SpecialDayshasBeenLaunchedBeforeFlag, reviewWorthyActionCount, lastReviewRequestAppVersion,
+            ReadAloudRate, NightReading};
 }
 }
 

@@ -29,6 +29,10 @@ extern const PreferenceKey AboutHasBeenLaunchedBeforeFlag;
 extern const PreferenceKey SpecialDayshasBeenLaunchedBeforeFlag;
 extern const PreferenceKey reviewWorthyActionCount;
 extern const PreferenceKey lastReviewRequestAppVersion;
+// The Read Aloud voice's rate, -1 (slowest) to 1 (fastest).
+extern const PreferenceKey ReadAloudRate;
+// Night pages (and every reader in a dark desktop) in light text on a dark surface.
+extern const PreferenceKey NightReading;
 
 // The key of a wallpaper image name ("Page1", "AM-36", ...): "true" when it may be drawn.
 PreferenceKey wallpaper(const QString &imageName);

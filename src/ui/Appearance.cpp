@@ -5,6 +5,9 @@
 #include "PreferenceKeys.h"
 #include "Wallpapers.h"
 
+#include <QGuiApplication>
+#include <QPalette>
+
 void ReaderAppearance::drawWallpaper(int firstBound)
 {
     m_ViewerRandomNumberGen = Wallpapers::draw(Wallpapers::ViewerWallpaper(), firstBound, m_ViewerRandomNumberGen);
@@ -18,6 +21,8 @@ void ReaderAppearance::read(double defaultFontSize)
     m_ReaderFontSize = Preferences::doubleIfPresent(PreferenceKeys::ReaderFontSize).value_or(defaultFontSize);
     if (m_useWallpaper == 1)
         m_wallpaper = Bundle::main().imageUrl(Wallpapers::ViewerWallpaper().value(m_ViewerRandomNumberGen));
+    m_NightReading = Preferences::boolForKey(PreferenceKeys::NightReading);
+    m_night = m_NightReading && desktopIsDark();
     Q_EMIT changed();
 }
 
@@ -63,6 +68,29 @@ void ReaderAppearance::HandlePinch(double scale)
     Q_EMIT zoomChanged();
 }
 
+void ReaderAppearance::setNightPage(bool nightPage)
+{
+    m_night = m_NightReading && (nightPage || desktopIsDark());
+    Q_EMIT changed();
+}
+
+QColor ReaderAppearance::nightTextColor() const
+{
+    // Follows the colour the text is shown in (a marked search page is black whatever is stored).
+    if (m_textColor == textColorFor(1))
+        return QColor(0xf4, 0xc8, 0xf4);
+    if (m_textColor == textColorFor(2))
+        return QColor(0xff, 0xcc, 0xc4);
+    if (m_textColor == textColorFor(3))
+        return QColor(0xcc, 0xda, 0xff);
+    return QColor(0xee, 0xe8, 0xdc); // a warm paper white
+}
+
+QColor ReaderAppearance::nightSurfaceColor() const
+{
+    return QColor(0x14, 0x16, 0x1b);
+}
+
 void ListAppearance::drawWallpaper()
 {
     m_PMRandomNumberGen = Wallpapers::draw(Wallpapers::PMWallpaper(), 34, m_PMRandomNumberGen);
@@ -98,4 +126,10 @@ std::optional<QColor> textColorFor(qint64 code)
     case 3: return QColor(Qt::blue);
     default: return std::nullopt;
     }
+}
+
+bool desktopIsDark()
+{
+    // Qt 6.4 has no colour-scheme hint; the platform theme's palette says the same.
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }

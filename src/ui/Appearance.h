@@ -21,6 +21,10 @@ class ReaderAppearance : public QObject
     Q_PROPERTY(double ReaderFontSize READ ReaderFontSize NOTIFY fontSizeChanged)
     Q_PROPERTY(double fontSize READ fontSize NOTIFY fontSizeChanged)
     Q_PROPERTY(double zoom READ zoom NOTIFY zoomChanged)
+    Q_PROPERTY(bool night READ night NOTIFY changed)
+    Q_PROPERTY(QColor nightTextColor READ nightTextColor NOTIFY changed)
+    Q_PROPERTY(QColor nightSurfaceColor READ nightSurfaceColor CONSTANT)
+    Q_PROPERTY(double wallpaperDim READ wallpaperDim CONSTANT)
 
 public:
     using QObject::QObject;
@@ -41,6 +45,9 @@ public:
     // The shown text one point larger or smaller; nothing is stored.
     void stepShownSize(int delta);
     void HandlePinch(double scale);
+    // With Night Reading on, a night page, or any page while the desktop is dark, is shown in
+    // the night look; the stored colour stays as it is.
+    void setNightPage(bool nightPage);
 
     QString FontName() const { return m_FontName; }
     bool styled() const { return m_styled; }
@@ -53,6 +60,12 @@ public:
     std::optional<qint64> useWallpaper() const { return m_useWallpaper; }
     // The stored colour code; 0 when none is stored.
     qint64 textColorCode() const { return m_textColorCode; }
+    bool night() const { return m_night; }
+    // The light counterpart of the stored colour, read on the night surface.
+    QColor nightTextColor() const;
+    QColor nightSurfaceColor() const;
+    // How strongly the night surface covers the wallpaper (its opacity over the picture).
+    double wallpaperDim() const { return 0.85; }
 
 Q_SIGNALS:
     void changed();
@@ -70,6 +83,8 @@ private:
     double m_ReaderFontSize = 0;
     double m_fontSize = 15.0; // the size the text is shown at
     double m_zoom = 1.0;
+    bool m_NightReading = false;
+    bool m_night = false;
 };
 
 // How a list shows its rows: the list font and size and, when rows show one, the list
@@ -113,3 +128,6 @@ private:
 // The colour of a text colour code (0 black, 1 magenta, 2 red, 3 blue), deep enough to read
 // over every wallpaper; none for a code outside 0..3.
 std::optional<QColor> textColorFor(qint64 code);
+
+// Whether the desktop is in a dark colour scheme: its window colour is dark.
+bool desktopIsDark();

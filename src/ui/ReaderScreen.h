@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "ReadAloud.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -14,6 +15,7 @@ class ReaderScreen : public QObject
     Q_PROPERTY(QString title READ title NOTIFY loaded)
     Q_PROPERTY(ReaderAppearance *appearance READ appearance CONSTANT)
     Q_PROPERTY(int deviceid READ deviceid NOTIFY loaded)
+    Q_PROPERTY(ReadAloud *readAloud READ readAloud CONSTANT)
 
 public:
     using QObject::QObject;
@@ -21,6 +23,7 @@ public:
     QString title() const { return m_title; }
     ReaderAppearance *appearance() { return &m_appearance; }
     int deviceid() const { return m_deviceid; }
+    ReadAloud *readAloud() { return &m_readAloud; }
 
     Q_INVOKABLE void HandlePinch(double scale) { m_appearance.HandlePinch(scale); }
 
@@ -32,6 +35,7 @@ protected:
     void loadAppearance(int firstBound, double defaultFontSize = 15.0);
 
     ReaderAppearance m_appearance;
+    ReadAloud m_readAloud;
     int m_deviceid = 0;
     QString m_title;
 };

@@ -25,6 +25,15 @@ Flickable {
     clip: true
     ScrollBar.vertical: ScrollBar {}
 
+    // The night look's dark surface, under the wallpaper; the wallpaper is dimmed by the same colour.
+    Rectangle {
+        objectName: "nightSurface"
+        width: surface.width
+        height: surface.contentHeight
+        color: surface.appearance.nightSurfaceColor
+        visible: surface.appearance.night
+    }
+
     Image {
         objectName: "img"
         width: surface.width
@@ -34,6 +43,14 @@ Flickable {
         sourceSize.width: Math.min(1600, surface.width * Screen.devicePixelRatio)
         asynchronous: true
         visible: status === Image.Ready
+
+        Rectangle {
+            objectName: "nightDim"
+            anchors.fill: parent
+            color: surface.appearance.nightSurfaceColor
+            opacity: surface.appearance.wallpaperDim
+            visible: surface.appearance.night
+        }
     }
 
     TextArea {
@@ -46,7 +63,7 @@ Flickable {
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
         horizontalAlignment: surface.appearance.styled ? TextEdit.AlignHCenter : TextEdit.AlignLeft
-        color: surface.appearance.textColor
+        color: surface.appearance.night ? surface.appearance.nightTextColor : surface.appearance.textColor
         font.family: surface.appearance.styled ? surface.appearance.FontName : Theme.plainFontFamily
         font.pixelSize: surface.appearance.fontSize
         topPadding: 8

@@ -2,6 +2,7 @@
 list(APPEND LARKWELLS_SOURCES
     ui/Appearance.h ui/Appearance.cpp
     ui/CellBackground.h ui/CellBackground.cpp
+    ui/ReadAloud.h ui/ReadAloud.cpp
     ui/ReaderScreen.h ui/ReaderScreen.cpp
     ui/Wallpapers.h ui/Wallpapers.cpp
 )
@@ -12,6 +13,7 @@ list(APPEND LARKWELLS_QML
     ui/ListCell.qml
     ui/NavigationBar.qml
     ui/PageTurner.qml
+    ui/ReadAloudButton.qml
     ui/ReaderSurface.qml
     ui/SegmentedControl.qml
     ui/TableList.qml

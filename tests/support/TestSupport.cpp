@@ -7,6 +7,7 @@
 #include "Log.h"
 #include "PersistentContainer.h"
 #include "Selection.h"
+#include "SpeechDouble.h"
 #include "UserDefaults.h"
 
 #include <QDir>
@@ -33,6 +34,7 @@ TestEnvironment::TestEnvironment()
     AppDelegate::shared().reset();
     Bundle::setResourceDirectory({});
     Selection::shared().clear();
+    Speech::install(std::make_unique<SpeechDouble>()); // nothing is heard while tests run
 }
 
 TestEnvironment::~TestEnvironment()

@@ -1,0 +1,181 @@
+#include "DefaultsViewController.h"
+#include "Navigator.h"
+#include "PreferenceKeys.h"
+#include "ReadAloud.h"
+#include "Selection.h"
+#include "SpeechDouble.h"
+#include "TestSupport.h"
+#include "UserDefaults.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickTextDocument>
+#include <QQuickWindow>
+#include <QTest>
+#include <QTextDocument>
+
+using namespace Qt::StringLiterals;
+
+// Read Aloud in every reader against the voice double, the rate set on User Defaults, and the
+// voice chosen for the locale.
+class TestReadAloud : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
+    void playPauseStopLeave_data();
+    void playPauseStopLeave();
+    void hiddenWithoutEngine_data() { playPauseStopLeave_data(); }
+    void hiddenWithoutEngine();
+    void rateStoredAndApplied_data();
+    void rateStoredAndApplied();
+    void voiceFollowsTheLocale_data();
+    void voiceFollowsTheLocale();
+
+private:
+    // The cover, then the reader opened by `segue` (every reader's selection carries "lark at dawn").
+    QQuickWindow *openReader(QQmlApplicationEngine &engine)
+    {
+        QFETCH(QString, segue);
+        QFETCH(QString, page);
+        UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+        QQuickWindow *window = loadMainWindow(engine);
+        if (!window || !waitForItem(window, u"ControlButton"_s))
+            return nullptr;
+        Selection &selection = Selection::shared();
+        selection.setSelectedAmpm(u"AM"_s);
+        selection.setSelectedDt(u"March 3"_s);
+        selection.setSelectedPoemPrayer(u"A lark at dawn"_s);
+        selection.setSelectedSearchText(u"dawn"_s);
+        selection.setSelectedSpecialAmpm(u"PM"_s);
+        selection.setSelectedSpecialPoem(u"A lark at dawn"_s);
+        selection.setSelectedAboutName(u"Good Morning Preface"_s);
+        selection.setSelectedAboutText(u"Why a lark at dawn"_s);
+        Navigator::shared().performSegue(segue);
+        return QTest::qWaitFor([&] { return topPage(window) == page; }) ? window : nullptr;
+    }
+};
+
+void TestReadAloud::playPauseStopLeave_data()
+{
+    QTest::addColumn<QString>("segue");
+    QTest::addColumn<QString>("page");
+    QTest::newRow("page reader") << u"ViewPoemSegue"_s << u"View"_s;
+    QTest::newRow("search-result reader") << u"SearchPoemSegue"_s << u"SearchView"_s;
+    QTest::newRow("special-day reader") << u"SpecialDayReaderSegue"_s << u"EditSpecialDaysView"_s;
+    QTest::newRow("about article") << u"AboutEditSegue"_s << u"AboutEditView"_s;
+}
+
+void TestReadAloud::playPauseStopLeave()
+{
+    TestEnvironment environment;
+    SpeechDouble &voice = SpeechDouble::shared();
+    UserDefaults::standard().set(u"ReadAloudRate"_s, -0.4);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openReader(engine);
+    QVERIFY(window);
+    QQuickItem *button = waitForItem(window, u"ReadAloudButton"_s);
+    QVERIFY(button);
+    const auto label = [button] { return button->property("text").toString(); };
+    const auto stopShown = [window] { return findVisibleItem(window->contentItem(), u"StopReadingButton"_s); };
+    QCOMPARE(label(), u"Read Aloud"_s);
+    QVERIFY(!stopShown());
+
+    // The voice is chosen when reading starts, from the locale then in force.
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
+    click(window, button);
+    QLocale::setDefault(before);
+    auto *text = findVisibleItem(window->contentItem(), u"scroller"_s)->property("textView").value<QQuickItem *>();
+    QCOMPARE(voice.spokenText, text->property("textDocument").value<QQuickTextDocument *>()->textDocument()->toPlainText());
+    QVERIFY(voice.spokenText.contains(u"lark at dawn"_s));
+    QCOMPARE(voice.spokenLocale, QLocale(QLocale::German, QLocale::Austria));
+    QCOMPARE(voice.spokenRate, -0.4);
+    QCOMPARE(label(), u"Pause"_s);
+
+    click(window, button);
+    QCOMPARE(voice.state(), Speech::State::Paused);
+    QCOMPARE(label(), u"Resume"_s);
+    voice.spokenText.clear();
+    click(window, button);
+    QCOMPARE(voice.state(), Speech::State::Speaking);
+    QVERIFY(voice.spokenText.isEmpty()); // resumed, not started again
+
+    click(window, waitForItem(window, u"StopReadingButton"_s));
+    QCOMPARE(voice.state(), Speech::State::Ready);
+    QCOMPARE(label(), u"Read Aloud"_s);
+    QTRY_VERIFY(!stopShown());
+
+    // Reaching the end brings the button back; leaving while reading stops the voice.
+    click(window, button);
+    voice.finish();
+    QCOMPARE(label(), u"Read Aloud"_s);
+    click(window, button);
+    const int stops = voice.stops;
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"CoverView"_s);
+    QTRY_COMPARE(voice.stops, stops + 1);
+    QCOMPARE(voice.state(), Speech::State::Ready);
+}
+
+void TestReadAloud::hiddenWithoutEngine()
+{
+    TestEnvironment environment;
+    SpeechDouble::shared().hasEngine = false;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openReader(engine);
+    QVERIFY(window);
+    QVERIFY(waitForItem(window, u"scroller"_s));
+    QVERIFY(findItem(window->contentItem(), u"ReadAloudButton"_s));
+    QVERIFY(!findVisibleItem(window->contentItem(), u"ReadAloudButton"_s));
+}
+
+void TestReadAloud::rateStoredAndApplied_data()
+{
+    QTest::addColumn<double>("moved");
+    QTest::addColumn<double>("stored");
+    QTest::newRow("slower") << -0.5 << -0.5;
+    QTest::newRow("beyond the fastest") << 1.6 << 1.0;
+}
+
+void TestReadAloud::rateStoredAndApplied()
+{
+    QFETCH(double, moved);
+    QFETCH(double, stored);
+    TestEnvironment environment;
+    DefaultsViewController defaults;
+    defaults.viewDidLoad();
+    QCOMPARE(defaults.ReadAloudRate(), 0.0);
+    defaults.ReadAloudRateSliderChanged(moved);
+    DefaultsViewController reopened;
+    reopened.viewDidLoad();
+    QCOMPARE(reopened.ReadAloudRate(), stored);
+
+    ReadAloud readAloud;
+    readAloud.play(u"The lark"_s);
+    QCOMPARE(SpeechDouble::shared().spokenRate, stored);
+}
+
+void TestReadAloud::voiceFollowsTheLocale_data()
+{
+    QTest::addColumn<QLocale>("wanted");
+    QTest::addColumn<QList<QLocale>>("offered");
+    QTest::addColumn<QString>("chosen"); // empty: the engine keeps its own voice
+    const QList<QLocale> voices{QLocale(u"en_US"_s), QLocale(u"de_AT"_s), QLocale(u"de_DE"_s)};
+    QTest::newRow("the locale itself") << QLocale(u"de_DE"_s) << voices << u"de_DE"_s;
+    QTest::newRow("the first of its language") << QLocale(u"de_CH"_s) << voices << u"de_AT"_s;
+    QTest::newRow("no voice of its language") << QLocale(u"fr_FR"_s) << voices << QString();
+}
+
+void TestReadAloud::voiceFollowsTheLocale()
+{
+    QFETCH(QLocale, wanted);
+    QFETCH(QList<QLocale>, offered);
+    QFETCH(QString, chosen);
+    const std::optional<QLocale> voice = voiceLocale(wanted, offered);
+    QCOMPARE(voice ? voice->name() : QString(), chosen);
+}
+
+QTEST_MAIN(TestReadAloud)
+#include "tst_readaloud.moc"
