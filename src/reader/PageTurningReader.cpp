@@ -18,6 +18,8 @@ bool PageTurningReader::turnPage(int direction)
 {
     if (!canTurn(direction) || !PageSequence::current()->turn(direction))
         return false;
+    // the voice reads the page that was shown, never the next one
+    readAloud()->stop();
     showSelection();
     Q_EMIT pageTurned(direction);
     return true;
