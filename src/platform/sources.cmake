@@ -12,6 +12,8 @@ list(APPEND LARKWELLS_SOURCES
     platform/ReviewRequest.h platform/ReviewRequest.cpp
     platform/Sharing.h platform/Sharing.cpp
     platform/UserDefaults.h platform/UserDefaults.cpp
+    platform/Notifications.h platform/Notifications.cpp
+    platform/UserServices.h platform/UserServices.cpp
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml

@@ -1,6 +1,7 @@
 # Sources of this subsystem, relative to src/.
 list(APPEND LARKWELLS_SOURCES
     reader/EditSpecialDaysViewController.h reader/EditSpecialDaysViewController.cpp
+    reader/PagePicture.h reader/PagePicture.cpp
     reader/ReaderText.h reader/ReaderText.cpp
     reader/SearchViewController.h reader/SearchViewController.cpp
     reader/ViewController.h reader/ViewController.cpp

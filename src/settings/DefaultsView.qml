@@ -229,6 +229,8 @@ Page {
                     onClicked: controller.ListWallpaperButtonClicked()
                 }
             }
+
+            ReminderRows { Layout.fillWidth: true }
         }
     }
 

@@ -18,6 +18,10 @@ const PreferenceKey AboutHasBeenLaunchedBeforeFlag{u"AboutHasBeenLaunchedBeforeF
 const PreferenceKey SpecialDayshasBeenLaunchedBeforeFlag{u"SpecialDayshasBeenLaunchedBeforeFlag"_s, Type::Bool, false};
 const PreferenceKey reviewWorthyActionCount{u"reviewWorthyActionCount"_s, Type::Integer, 0};
 const PreferenceKey lastReviewRequestAppVersion{u"lastReviewRequestAppVersion"_s, Type::String, {}};
+const PreferenceKey MorningReminder{u"MorningReminder"_s, Type::Bool, false};
+const PreferenceKey MorningReminderTime{u"MorningReminderTime"_s, Type::String, u"07:00"_s};
+const PreferenceKey NightReminder{u"NightReminder"_s, Type::Bool, false};
+const PreferenceKey NightReminderTime{u"NightReminderTime"_s, Type::String, u"21:00"_s};
 
 PreferenceKey wallpaper(const QString &imageName)
 {
@@ -28,7 +32,8 @@ QList<PreferenceKey> all()
 {
     return {FontName, ReaderFontSize, ListFontName, ListFontSize, textColor, useWallpaper,
             ListWallpaperVisible, hasBeenLaunchedBeforeFlag, AboutHasBeenLaunchedBeforeFlag,
-            SpecialDayshasBeenLaunchedBeforeFlag, reviewWorthyActionCount, lastReviewRequestAppVersion};
+            SpecialDayshasBeenLaunchedBeforeFlag, reviewWorthyActionCount, lastReviewRequestAppVersion,
+            MorningReminder, MorningReminderTime, NightReminder, NightReminderTime};
 }
 }
 

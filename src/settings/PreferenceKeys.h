@@ -29,6 +29,11 @@ extern const PreferenceKey AboutHasBeenLaunchedBeforeFlag;
 extern const PreferenceKey SpecialDayshasBeenLaunchedBeforeFlag;
 extern const PreferenceKey reviewWorthyActionCount;
 extern const PreferenceKey lastReviewRequestAppVersion;
+// The reminders: whether each is on, and its time as "HH:mm".
+extern const PreferenceKey MorningReminder;
+extern const PreferenceKey MorningReminderTime;
+extern const PreferenceKey NightReminder;
+extern const PreferenceKey NightReminderTime;
 
 // The key of a wallpaper image name ("Page1", "AM-36", ...): "true" when it may be drawn.
 PreferenceKey wallpaper(const QString &imageName);
