@@ -126,7 +126,7 @@ int main(int argc, char *argv[])
     const QCommandLineOption dataDir(u"data-dir"_s, QCoreApplication::translate("main", "Where the database and the preferences live."), u"DIR"_s);
     const QCommandLineOption resources(u"resources"_s, QCoreApplication::translate("main", "Use DIR as the application bundle."), u"DIR"_s);
     const QCommandLineOption selfTest(u"self-test"_s, QCoreApplication::translate("main", "Load every page and fail on any QML warning."));
-    const QCommandLineOption remind(u"remind"_s, QCoreApplication::translate("main", "Show today's morning or night page as a desktop notification, then end."), u"morning|night"_s);
+    const QCommandLineOption remind(u"remind"_s, QCoreApplication::translate("main", "Show the first line of today's morning or night page as a desktop notification; a click on it opens the page."), u"morning|night"_s);
     const QCommandLineOption at(u"at"_s, QCoreApplication::translate("main", "With --remind: wait for this time of day (HH:MM), every day, instead of reminding now."), u"HH:MM"_s);
     const QCommandLineOption open(u"open"_s, QCoreApplication::translate("main", "Open the reader on today's morning or night page."), u"today-morning|today-night"_s);
     parser.addOptions({dataDir, resources, selfTest, remind, at, open});

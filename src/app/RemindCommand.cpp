@@ -1,11 +1,11 @@
 #include "RemindCommand.h"
 
+#include "Clock.h"
 #include "Entities.h"
 #include "Notifications.h"
 #include "ReaderText.h"
 #include "ReminderSettings.h"
 #include "TodaysPage.h"
-#include "Clock.h"
 
 #include <QCoreApplication>
 #include <QProcess>
