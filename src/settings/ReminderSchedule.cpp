@@ -123,6 +123,10 @@ void removeSchedule(Kind kind)
     }
     QFile::remove(unitPath(kind, u".service"_s));
     QFile::remove(autostartPath(kind));
+    // The folders go too when this left them empty (rmdir keeps a folder that holds anything).
+    QDir config(configFolder());
+    for (const QString &folder : {u"systemd/user"_s, u"systemd"_s, u"autostart"_s})
+        config.rmdir(folder);
 }
 }
 

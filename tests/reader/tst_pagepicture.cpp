@@ -32,7 +32,7 @@ struct Ink {
     QRect box;
     int pixels = 0;
 };
-Ink inkOf(const QImage &picture, const QColor &color)
+Ink inkOf(const QImage &picture, const QColor &color, int tolerance = 40)
 {
     Ink ink;
     for (int y = 0; y < picture.height(); ++y) {
@@ -40,7 +40,7 @@ Ink inkOf(const QImage &picture, const QColor &color)
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb pixel = line[x];
             if (std::max({std::abs(qRed(pixel) - color.red()), std::abs(qGreen(pixel) - color.green()),
-                          std::abs(qBlue(pixel) - color.blue())}) > 40)
+                          std::abs(qBlue(pixel) - color.blue())}) > tolerance)
                 continue;
             ++ink.pixels;
             ink.box |= QRect(x, y, 1, 1);
@@ -100,6 +100,10 @@ void TestPagePicture::drawsThePageAsTheReaderShowsIt()
     const Ink background = inkOf(blank, ink);
     QVERIFY2(written.pixels > background.pixels + 5000, qPrintable(u"%1 against %2"_s.arg(written.pixels).arg(background.pixels)));
 
+    // Behind the text (and the heading, which stays): the wallpaper when it is on, else the
+    // reader's plain grey.
+    const int grey = inkOf(blank, QColor(0xd3, 0xd3, 0xd3), 0).pixels;
+    QCOMPARE(grey > blank.width() * blank.height() * 9 / 10, useWallpaper == 0);
     if (useWallpaper == 0) { // the reader centres its lines
         const int middle = (written.box.left() + written.box.right()) / 2;
         QVERIFY2(std::abs(middle - PagePicture::width / 2) < 40, qPrintable(QString::number(middle)));
