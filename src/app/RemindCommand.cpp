@@ -92,6 +92,10 @@ void RemindCommand::waitUntil(QTime at)
 {
     const qint64 wait = Clock::now().msecsTo(nextTime(Clock::now(), at));
     QTimer::singleShot(std::chrono::milliseconds(wait), this, [this, at] {
+        if (!ReminderSchedule::autostartWaitsFor(m_kind, at)) {
+            QCoreApplication::quit();
+            return;
+        }
         send(); // a missing service is told on standard error; tomorrow may be better
         waitUntil(at);
     });

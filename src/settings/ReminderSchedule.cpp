@@ -170,6 +170,13 @@ void update(Kind kind, std::optional<QTime> at)
         writeAutostart(kind, *at);
 }
 
+bool autostartWaitsFor(Kind kind, QTime at)
+{
+    QFile entry(autostartPath(kind));
+    const QRegularExpression waits(u" --at %1(\\s|$)"_s.arg(at.toString(u"HH:mm"_s)), QRegularExpression::MultilineOption);
+    return entry.open(QIODevice::ReadOnly) && QString::fromUtf8(entry.readAll()).contains(waits);
+}
+
 QString unitFolder()
 {
     return QDir(configFolder()).filePath(u"systemd/user"_s);

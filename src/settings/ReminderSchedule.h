@@ -27,6 +27,10 @@ QStringList launchArguments();
 // cannot be written and service-manager failures are logged; the app goes on.
 void update(Kind kind, std::optional<QTime> at);
 
+// True while the autostart entry of `kind` waits for `at`: a waiting reminder whose entry was
+// switched off or moved to another time ends instead of reminding.
+bool autostartWaitsFor(Kind kind, QTime at);
+
 // Where the schedule lives, under the user's configuration folder (XDG_CONFIG_HOME).
 QString unitFolder();
 QString autostartFolder();

@@ -192,6 +192,8 @@ void TestReminders::scheduleFollowsTheSwitches()
     reminders.ReminderTimeChanged(Kind::Morning, u"6:30"_s);
     QCOMPARE(reminders.MorningReminderTime(), u"06:30"_s);
     QVERIFY(desktop.read(morningFiles.last()).contains(timeAt0630));
+    QCOMPARE(ReminderSchedule::autostartWaitsFor(ReminderSchedule::Kind::Morning, QTime(6, 30)), !systemd);
+    QVERIFY(!ReminderSchedule::autostartWaitsFor(ReminderSchedule::Kind::Morning, QTime(7, 0)));
     reminders.ReminderSwitchChanged(Kind::Night, true);
     const QStringList night = desktop.entries().filter(u"night"_s);
     QCOMPARE(night.size(), morningFiles.size());
@@ -201,9 +203,16 @@ void TestReminders::scheduleFollowsTheSwitches()
     reminders.ReminderSwitchChanged(Kind::Morning, false);
     reminders.ReminderSwitchChanged(Kind::Night, false);
     QCOMPARE(desktop.entries(), QStringList());
+    QVERIFY(!ReminderSchedule::autostartWaitsFor(ReminderSchedule::Kind::Morning, QTime(6, 30)));
     if (systemd)
         QCOMPARE(desktop.services.commands.filter(u"disable --now"_s),
                  (QStringList{u"disable --now larkwells-morning-reminder.timer"_s, u"disable --now larkwells-night-reminder.timer"_s}));
+
+    // Without a data folder of its own the command ends with the time.
+    ReminderSchedule::setLaunchArguments({});
+    reminders.ReminderSwitchChanged(Kind::Morning, true);
+    QCOMPARE(ReminderSchedule::autostartWaitsFor(ReminderSchedule::Kind::Morning, QTime(6, 30)), !systemd);
+    reminders.ReminderSwitchChanged(Kind::Morning, false);
 
     // The switches and the time survive a restart.
     UserDefaults::setStandardDirectory(environment.dataDirectory());
