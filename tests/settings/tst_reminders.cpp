@@ -139,8 +139,6 @@ private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
     void scheduleFollowsTheSwitches_data();
     void scheduleFollowsTheSwitches();
-    void timesAsTyped_data();
-    void timesAsTyped();
     void notificationShowsTodaysFirstLine_data();
     void notificationShowsTodaysFirstLine();
     void aClickOpensTheAppOnThePage();
@@ -218,29 +216,6 @@ void TestReminders::scheduleFollowsTheSwitches()
     UserDefaults::setStandardDirectory(environment.dataDirectory());
     QCOMPARE(UserDefaults::standard().stringForKey(u"MorningReminderTime"_s), u"06:30"_s);
     QCOMPARE(UserDefaults::standard().boolForKey(u"NightReminder"_s), false);
-}
-
-void TestReminders::timesAsTyped_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("stored");
-    QTest::newRow("one-digit hour") << u"7:05"_s << u"07:05"_s;
-    QTest::newRow("last minute of the day") << u" 23:59 "_s << u"23:59"_s;
-    QTest::newRow("no such hour") << u"24:00"_s << u"21:00"_s;
-    QTest::newRow("no such minute") << u"12:60"_s << u"21:00"_s;
-    QTest::newRow("empty") << QString() << u"21:00"_s;
-}
-
-void TestReminders::timesAsTyped()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, stored);
-    TestEnvironment environment;
-    Desktop desktop;
-    ReminderSettings reminders;
-    reminders.ReminderTimeChanged(Kind::Night, typed);
-    QCOMPARE(reminders.NightReminderTime(), stored);
-    QCOMPARE(desktop.entries(), QStringList()); // the switch is off: no schedule for a new time
 }
 
 void TestReminders::notificationShowsTodaysFirstLine_data()
