@@ -2,9 +2,11 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "PersistentContainer.h"
+#include "RemindCommand.h"
 #include "ProductLinks.h"
 #include "SelfTest.h"
 #include "Termination.h"
+#include "TodaysPage.h"
 #include "UserDefaults.h"
 
 #include <QCommandLineParser>
@@ -38,12 +40,35 @@ void printLinks()
                  qPrintable(ProductLinks::website().toString()), qPrintable(ProductLinks::feedbackAddress()));
 }
 
-bool onlyAsksForHelpOrVersion(int argc, char *argv[])
+// Help, the version and a reminder answer without a window (a reminder runs from a timer, where
+// there may be no display).
+bool needsNoWindow(int argc, char *argv[])
 {
     static const char *const flags[] = {"-h", "-?", "--help", "--help-all", "-v", "--version"};
     return std::any_of(argv + 1, argv + argc, [](const char *arg) {
-        return std::any_of(std::begin(flags), std::end(flags), [arg](const char *flag) { return qstrcmp(arg, flag) == 0; });
+        return std::any_of(std::begin(flags), std::end(flags), [arg](const char *flag) { return qstrcmp(arg, flag) == 0; })
+            || QByteArrayView(arg).startsWith("--remind");
     });
+}
+
+// The page `--open` names: "AM" for today-morning, "PM" for today-night, empty for another.
+QString pageToOpen(const QString &value)
+{
+    if (value == u"today-morning"_s)
+        return u"AM"_s;
+    if (value == u"today-night"_s)
+        return u"PM"_s;
+    return {};
+}
+
+// What a reminder passes on to the app it runs: the data folder and bundle this one was given.
+QStringList launchArguments(const QCommandLineParser &parser, const QList<QCommandLineOption> &options)
+{
+    QStringList arguments;
+    for (const QCommandLineOption &option : options)
+        if (parser.isSet(option))
+            arguments << u"--"_s + option.names().constFirst() << QDir(parser.value(option)).absolutePath();
+    return arguments;
 }
 
 // Our own texts in the reader's language where a translation exists, and Qt's own (dialog
@@ -87,8 +112,7 @@ void placeWindow(QQuickWindow *window, const QString &dataDirectory)
 
 int main(int argc, char *argv[])
 {
-    // --help and --version answer on a console without a window system.
-    if (onlyAsksForHelpOrVersion(argc, argv))
+    if (needsNoWindow(argc, argv))
         qputenv("QT_QPA_PLATFORM", "minimal");
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(u"larkwells"_s);
@@ -102,7 +126,10 @@ int main(int argc, char *argv[])
     const QCommandLineOption dataDir(u"data-dir"_s, QCoreApplication::translate("main", "Where the database and the preferences live."), u"DIR"_s);
     const QCommandLineOption resources(u"resources"_s, QCoreApplication::translate("main", "Use DIR as the application bundle."), u"DIR"_s);
     const QCommandLineOption selfTest(u"self-test"_s, QCoreApplication::translate("main", "Load every page and fail on any QML warning."));
-    parser.addOptions({dataDir, resources, selfTest});
+    const QCommandLineOption remind(u"remind"_s, QCoreApplication::translate("main", "Show the first line of today's morning or night page as a desktop notification; a click on it opens the page."), u"morning|night"_s);
+    const QCommandLineOption at(u"at"_s, QCoreApplication::translate("main", "With --remind: wait for this time of day (HH:MM), every day, instead of reminding now."), u"HH:MM"_s);
+    const QCommandLineOption open(u"open"_s, QCoreApplication::translate("main", "Open the reader on today's morning or night page."), u"today-morning|today-night"_s);
+    parser.addOptions({dataDir, resources, selfTest, remind, at, open});
     if (!parser.parse(QCoreApplication::arguments())) {
         std::fprintf(stderr, "larkwells: %s\n%s\n", qPrintable(parser.errorText()),
                      qPrintable(QCoreApplication::translate("main", "Try 'larkwells --help' for the options.")));
@@ -116,6 +143,13 @@ int main(int argc, char *argv[])
         parser.showHelp();
     if (!parser.positionalArguments().isEmpty()) {
         std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst())));
+        return 2;
+    }
+    const QString openPage = pageToOpen(parser.value(open));
+    if ((parser.isSet(open) && openPage.isEmpty()) || (parser.isSet(at) && !parser.isSet(remind))) {
+        std::fprintf(stderr, "larkwells: %s\n", qPrintable(parser.isSet(at)
+            ? QCoreApplication::translate("main", "--at goes with --remind.")
+            : QCoreApplication::translate("main", "--open takes today-morning or today-night.")));
         return 2;
     }
 
@@ -135,6 +169,12 @@ int main(int argc, char *argv[])
         Bundle::setResourceDirectory(parser.value(resources));
     if (testing)
         selfTestRun.watchWarnings();
+    ReminderSchedule::setLaunchArguments(launchArguments(parser, {dataDir, resources}));
+    if (parser.isSet(remind)) {
+        const int status = RemindCommand::run(parser.value(remind), parser.value(at));
+        AppDelegate::shared().reset();
+        return status;
+    }
 
     QQuickStyle::setStyle(u"Material"_s);
     AppDelegate::shared().didFinishLaunching();
@@ -154,6 +194,8 @@ int main(int argc, char *argv[])
         if (qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
             QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QGuiApplication::quit, Qt::QueuedConnection);
     }
+    if (!openPage.isEmpty() && !TodaysPage::open(openPage))
+        std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "The book has no page for today.")));
     const int status = testing ? selfTestRun.exec(engine) : QGuiApplication::exec();
     AppDelegate::shared().reset(); // close the store while the database driver still exists
     return status;

@@ -9,6 +9,8 @@ list(APPEND LARKWELLS_SOURCES
     app/Selection.h app/Selection.cpp
     app/SelfTest.h app/SelfTest.cpp
     app/Termination.h app/Termination.cpp
+    app/TodaysPage.h app/TodaysPage.cpp
+    app/RemindCommand.h app/RemindCommand.cpp
     app/store/Entities.h app/store/Entities.cpp
     app/store/FetchRequest.h app/store/FetchRequest.cpp
     app/store/ManagedObject.h app/store/ManagedObject.cpp

@@ -4,8 +4,9 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Larkwells
 
-// The bottom sheet of the Sharing service: copy, save as a text file, e-mail, text message; for
-// a file, save a copy or open it with the desktop's handler.
+// The bottom sheet of the Sharing service: copy, save as a text file, e-mail, text message, and
+// a picture where the screen offers one; for a file, save a copy or open it with the desktop's
+// handler.
 Drawer {
     id: sheet
     objectName: "shareSheet"
@@ -55,6 +56,7 @@ Drawer {
                 { name: "file", title: qsTr("Save as Text File…") },
                 { name: "mail", title: qsTr("E-mail") },
                 { name: "sms", title: qsTr("Text Message") },
+                { name: "picture", title: qsTr("Share as Picture") },
                 { name: "savecopy", title: qsTr("Save a Copy…") },
                 { name: "openwith", title: qsTr("Open With…") },
                 { name: "cancel", title: qsTr("Cancel") }
@@ -67,7 +69,8 @@ Drawer {
                 // Asking the desktop for a handler waits until the sheet is wanted.
                 visible: modelData.name === "cancel" || (forFile === Sharing.sharesFile
                          && (modelData.name !== "sms" || (Sharing.showing && Sharing.canSendText))
-                         && (modelData.name !== "mail" || (Sharing.showing && Sharing.canSendMail)))
+                         && (modelData.name !== "mail" || (Sharing.showing && Sharing.canSendMail))
+                         && (modelData.name !== "picture" || Sharing.offersPicture))
                 text: modelData.title
                 font.pixelSize: 17
                 font.bold: modelData.name === "cancel"
@@ -79,6 +82,7 @@ Drawer {
                     case "file": sheet.openDialog(saveDialog); break
                     case "mail": Sharing.email(); break
                     case "sms": Sharing.textMessage(); break
+                    case "picture": Sharing.shareAsPicture(); break
                     case "savecopy": sheet.openDialog(copyDialog); break
                     case "openwith": Sharing.openWith(); break
                     default: Sharing.cancel()

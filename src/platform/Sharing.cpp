@@ -83,6 +83,14 @@ void Sharing::present(Request request)
     Q_EMIT showingChanged();
 }
 
+void Sharing::presentWithPicture(Request request, std::function<QString()> picture)
+{
+    if (m_request)
+        dismiss(false);
+    m_picture = std::move(picture);
+    present(std::move(request));
+}
+
 void Sharing::sheetPresented()
 {
     if (m_request && m_request->presented)
@@ -94,6 +102,7 @@ void Sharing::dismiss(bool completed)
     if (!m_request)
         return;
     const Request request = *std::exchange(m_request, std::nullopt);
+    m_picture = {};
     Q_EMIT showingChanged();
     if (request.completion)
         request.completion(completed);
@@ -194,6 +203,24 @@ void Sharing::openWith()
         Q_EMIT failed(u"The file could not be opened: "_s + detail);
     });
     dismiss(true);
+}
+
+void Sharing::shareAsPicture()
+{
+    if (!offersPicture())
+        return;
+    const QString path = m_picture();
+    if (path.isEmpty()) {
+        Q_EMIT failed(u"The picture could not be made."_s);
+        return;
+    }
+    // The open sheet turns into the sheet for the picture file; closing and opening it again
+    // at once would race its closing animation.
+    const Request text = *std::exchange(m_request, Request{QString(), {}, {}, path});
+    m_picture = {};
+    Q_EMIT showingChanged();
+    if (text.completion)
+        text.completion(true);
 }
 
 bool Sharing::canSendMail() const

@@ -22,6 +22,7 @@ class Sharing : public QObject
     Q_PROPERTY(QString fileName READ fileName NOTIFY showingChanged)
     Q_PROPERTY(QUrl suggestedCopy READ suggestedCopy NOTIFY showingChanged)
     Q_PROPERTY(QUrl documentsFolder READ documentsFolder CONSTANT)
+    Q_PROPERTY(bool offersPicture READ offersPicture NOTIFY showingChanged)
 
 public:
     static Sharing &shared();
@@ -39,9 +40,13 @@ public:
         QString filePath; // when set, the sheet offers this file instead of the text
     };
     void present(Request request);
+    // The sheet for a text that may also go as a picture: `picture` draws it and gives the
+    // picture file's path (empty when it could not be made), which is then offered as a file.
+    void presentWithPicture(Request request, std::function<QString()> picture);
     // The sheet for a file: save a copy of it, or open it with the desktop's handler.
     void presentFile(const QString &path) { present({QString(), {}, {}, path}); }
     bool sharesFile() const { return m_request && !m_request->filePath.isEmpty(); }
+    bool offersPicture() const { return m_request && m_picture; }
     QString fileName() const;
     // Where "Save a Copy…" proposes to put the file: the Documents folder, under its own name.
     QUrl suggestedCopy() const;
@@ -72,6 +77,7 @@ public:
     Q_INVOKABLE void textMessage();
     Q_INVOKABLE void saveCopy(const QUrl &target);
     Q_INVOKABLE void openWith();
+    Q_INVOKABLE void shareAsPicture();
     Q_INVOKABLE void cancel();
     // The file dialog could not be loaded (its QML module is missing).
     Q_INVOKABLE void saveDialogUnavailable(const QString &reason);
@@ -87,6 +93,7 @@ Q_SIGNALS:
 private:
     explicit Sharing(QObject *parent = nullptr);
     std::optional<Request> m_request;
+    std::function<QString()> m_picture; // with the request it belongs to
     std::optional<bool> m_canSendOverride;
     std::optional<bool> m_canSendMailOverride;
 };

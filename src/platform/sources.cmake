@@ -13,6 +13,8 @@ list(APPEND LARKWELLS_SOURCES
     platform/Sharing.h platform/Sharing.cpp
     platform/Speech.h platform/Speech.cpp
     platform/UserDefaults.h platform/UserDefaults.cpp
+    platform/Notifications.h platform/Notifications.cpp
+    platform/UserServices.h platform/UserServices.cpp
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml

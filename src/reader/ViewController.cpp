@@ -4,10 +4,13 @@
 #include "Bundle.h"
 #include "Log.h"
 #include "Navigator.h"
+#include "PagePicture.h"
 #include "ReaderText.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "Sharing.h"
+
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -118,9 +121,18 @@ void ViewController::SharePoem()
 
 void ViewController::FacebookShare()
 {
-    Sharing::shared().present({m_PoemPrayerText,
-                               [](bool completed) { Log::line(completed ? u"completed"_s : u"canceled"_s); },
-                               [] { Log::line(u"presented"_s); }});
+    Sharing::shared().presentWithPicture({m_PoemPrayerText,
+                                          [](bool completed) { Log::line(completed ? u"completed"_s : u"canceled"_s); },
+                                          [] { Log::line(u"presented"_s); },
+                                          {}},
+                                         [reader = QPointer(this)] { return reader ? reader->SharePicture() : QString(); });
+}
+
+QString ViewController::SharePicture() const
+{
+    const Selection &selection = Selection::shared();
+    const QString title = QStringList{selection.selectedDt(), ReaderText::greeting(selection.selectedAmpm())}.join(u' ');
+    return PagePicture::writePng(PagePicture::render(m_PoemPrayerText, m_appearance), title);
 }
 
 void ViewController::BackToMain()

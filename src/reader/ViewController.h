@@ -33,6 +33,9 @@ public:
     Q_INVOKABLE void ChangeFontSize(double value);
     Q_INVOKABLE void SharePoem();
     Q_INVOKABLE void FacebookShare();
+    // The shown text (with its edits) drawn as the reader shows it, written to a PNG file; the
+    // file's path, or empty when it could not be written.
+    QString SharePicture() const;
     Q_INVOKABLE void BackToMain();
 
 Q_SIGNALS:

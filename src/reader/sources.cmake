@@ -2,6 +2,7 @@
 list(APPEND LARKWELLS_SOURCES
     reader/EditSpecialDaysViewController.h reader/EditSpecialDaysViewController.cpp
     reader/PageTurningReader.h reader/PageTurningReader.cpp
+    reader/PagePicture.h reader/PagePicture.cpp
     reader/ReaderText.h reader/ReaderText.cpp
     reader/SearchViewController.h reader/SearchViewController.cpp
     reader/ViewController.h reader/ViewController.cpp

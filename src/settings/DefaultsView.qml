@@ -257,6 +257,8 @@ Page {
                     onClicked: controller.ListWallpaperButtonClicked()
                 }
             }
+
+            ReminderRows { Layout.fillWidth: true }
         }
     }
 

@@ -20,6 +20,10 @@ const PreferenceKey reviewWorthyActionCount{u"reviewWorthyActionCount"_s, Type::
 const PreferenceKey lastReviewRequestAppVersion{u"lastReviewRequestAppVersion"_s, Type::String, {}};
 const PreferenceKey ReadAloudRate{u"ReadAloudRate"_s, Type::Double, 0.0};
 const PreferenceKey NightReading{u"NightReading"_s, Type::Bool, false};
+const PreferenceKey MorningReminder{u"MorningReminder"_s, Type::Bool, false};
+const PreferenceKey MorningReminderTime{u"MorningReminderTime"_s, Type::String, u"07:00"_s};
+const PreferenceKey NightReminder{u"NightReminder"_s, Type::Bool, false};
+const PreferenceKey NightReminderTime{u"NightReminderTime"_s, Type::String, u"21:00"_s};
 
 PreferenceKey wallpaper(const QString &imageName)
 {
@@ -31,7 +35,8 @@ QList<PreferenceKey> all()
     return {FontName, ReaderFontSize, ListFontName, ListFontSize, textColor, useWallpaper,
             ListWallpaperVisible, hasBeenLaunchedBeforeFlag, AboutHasBeenLaunchedBeforeFlag,
             SpecialDayshasBeenLaunchedBeforeFlag, reviewWorthyActionCount, lastReviewRequestAppVersion,
-            ReadAloudRate, NightReading};
+            ReadAloudRate, NightReading, MorningReminder, MorningReminderTime, NightReminder,
+            NightReminderTime};
 }
 }
 

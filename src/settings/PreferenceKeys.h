@@ -33,6 +33,11 @@ extern const PreferenceKey lastReviewRequestAppVersion;
 extern const PreferenceKey ReadAloudRate;
 // Night pages (and every reader in a dark desktop) in light text on a dark surface.
 extern const PreferenceKey NightReading;
+// The reminders: whether each is on, and its time as "HH:mm".
+extern const PreferenceKey MorningReminder;
+extern const PreferenceKey MorningReminderTime;
+extern const PreferenceKey NightReminder;
+extern const PreferenceKey NightReminderTime;
 
 // The key of a wallpaper image name ("Page1", "AM-36", ...): "true" when it may be drawn.
 PreferenceKey wallpaper(const QString &imageName);

@@ -7,6 +7,8 @@ list(APPEND LARKWELLS_SOURCES
     settings/ViewerWallpaperTableViewController.h
     settings/ListWallpaperTableViewController.h
     settings/SettingsViewController.h settings/SettingsViewController.cpp
+    settings/ReminderSchedule.h settings/ReminderSchedule.cpp
+    settings/ReminderSettings.h settings/ReminderSettings.cpp
 )
 list(APPEND LARKWELLS_QML
     settings/DefaultsView.qml
@@ -17,6 +19,7 @@ list(APPEND LARKWELLS_QML
     settings/ViewerWallpaperTableView.qml
     settings/ListWallpaperTableView.qml
     settings/SettingsView.qml
+    settings/ReminderRows.qml
 )
 
 # The product's links, shown by `larkwells --version`.
