@@ -92,9 +92,21 @@ QQuickWindow *load(QQmlApplicationEngine &engine, const QByteArray &qml)
     return window;
 }
 
+// The item of that name under `root`, through the visual tree (QML items need no QObject parent).
+QQuickItem *findItem(QQuickItem *root, const QString &name)
+{
+    if (root->objectName() == name)
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = findItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
 QQuickItem *topScreen(QQuickWindow *window)
 {
-    auto *stack = window->contentItem()->findChild<QQuickItem *>(u"stack"_s);
+    auto *stack = findItem(window->contentItem(), u"stack"_s);
     return stack ? stack->property("currentItem").value<QQuickItem *>() : nullptr;
 }
 }
@@ -133,7 +145,7 @@ int main(int argc, char **argv)
         qFatal("the page list did not open (top screen: %s)", screen ? qPrintable(screen->objectName()) : "none");
     controller->segmentedControlAction(1);
     settle(300);
-    auto *list = screen->findChild<QQuickItem *>(u"table"_s);
+    auto *list = findItem(screen, u"table"_s);
 
     // The floor: the same model in a bare ListView of plain Text rows of the same height.
     QQmlApplicationEngine plainEngine;
@@ -145,7 +157,7 @@ int main(int argc, char **argv)
         "delegate: Text { required property string dateText; required property string pageText\n"
         "height: %3; text: dateText + \" \" + pageText } } }")
         .arg(window->width()).arg(window->height()).arg(rowHeight).toUtf8());
-    auto *plainList = plainWindow->contentItem()->findChild<QQuickItem *>(u"table"_s);
+    auto *plainList = findItem(plainWindow->contentItem(), u"table"_s);
 
     std::vector<double> frames, plainFrames;
     for (int pass = 0; pass < passes; ++pass) {
@@ -163,12 +175,12 @@ int main(int argc, char **argv)
     QString text;
     QUrl picture;
     for (int pass = 0; pass < passes; ++pass) {
-        QQuickItem *row = list->findChild<QQuickItem *>(u"row-0"_s);
+        QQuickItem *row = findItem(list, u"row-0"_s);
         taps.push_back(toNextFrame(window, [&] { QMetaObject::invokeMethod(row, "clicked"); }));
         QQuickItem *reader = topScreen(window);
         if (!reader || reader->objectName() != u"View"_s)
             qFatal("the reader did not open");
-        if (auto *surface = reader->findChild<QQuickItem *>(u"scroller"_s)) {
+        if (auto *surface = findItem(reader, u"scroller"_s)) {
             text = surface->property("text").toString();
             if (auto *appearance = surface->property("appearance").value<QObject *>())
                 picture = appearance->property("wallpaper").toUrl();
@@ -179,7 +191,7 @@ int main(int argc, char **argv)
         Navigator::shared().performSegue(u"PoemPrayerSegue"_s);
         settle(600);
         screen = topScreen(window);
-        list = screen->findChild<QQuickItem *>(u"table"_s);
+        list = findItem(screen, u"table"_s);
     }
 
     QQmlApplicationEngine bareEngine;

@@ -35,6 +35,6 @@ done
 echo
 echo "The Larkwells Book, Release build, $(date -u '+%Y-%m-%d %H:%M UTC'), $(nproc) cores, load $(cut -d' ' -f1-3 /proc/loadavg)"
 {
-    printf 'measure\tfloor (same run)\tmeasured\tfloor\tratio\ttarget\t\n'
+    printf 'measure\tfloor (same run)\tmeasured\tfloor\tratio\ttarget\tresult\n'
     cat "$rows"
 } | column -t -s $'\t'
