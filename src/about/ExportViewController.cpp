@@ -55,7 +55,7 @@ void ExportViewController::viewDidLoad()
 QString ExportViewController::updateFileText()
 {
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    return PageFile::updateFileText(context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()));
+    return PageFile::updateFileText(context);
 }
 
 void ExportViewController::CreateUpdateFile()

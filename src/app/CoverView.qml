@@ -13,7 +13,10 @@ Page {
     function unwind(identifier: string) {}
 
     CoverViewController { id: controller }
-    Component.onCompleted: controller.viewDidLoad()
+    Component.onCompleted: {
+        controller.prepareCover(img.sourceSize, Screen.devicePixelRatio)
+        controller.viewDidLoad()
+    }
     StackView.onActivating: controller.viewWillAppear()
     StackView.onDeactivating: controller.viewWillDisappear()
 
@@ -31,12 +34,12 @@ Page {
         anchors.centerIn: parent
         width: natural.width * coverScale
         height: natural.height * coverScale
-        source: controller.img
-        // Drawn once, at the most the screen can show of it.
+        source: controller.coverSource
+        // Drawn once, at the most the screen can show of it, and kept for later launches.
         readonly property real drawScale: Math.min(1, Math.max(Screen.width, Screen.height)
                                                        * Screen.devicePixelRatio / natural.height)
-        sourceSize.width: natural.width * drawScale
-        sourceSize.height: natural.height * drawScale
+        sourceSize.width: Math.round(natural.width * drawScale)
+        sourceSize.height: Math.round(natural.height * drawScale)
         smooth: true
         mipmap: true
         Accessible.role: Accessible.Graphic

@@ -2,12 +2,15 @@
 
 #include "Alerts.h"
 #include "Bundle.h"
+#include "CoverCache.h"
 #include "Log.h"
 #include "Navigator.h"
 #include "PageFile.h"
 #include "PreferenceKeys.h"
 #include "Selection.h"
 #include "Wallpapers.h"
+
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +22,23 @@ CoverViewController::CoverViewController(QObject *parent)
 QUrl CoverViewController::img() const
 {
     return Bundle::main().imageUrl(u"Cover"_s);
+}
+
+void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
+{
+    m_coverPath = CoverCache::path(pixelSize, scale);
+    if (pixelSize.isEmpty() || QFile::exists(m_coverPath))
+        return;
+    const QUrl vector = img();
+    const QString file = vector.scheme() == u"qrc"_s ? u':' + vector.path() : vector.toLocalFile();
+    m_coverDrawn = std::async(std::launch::async, CoverCache::draw, file, m_coverPath, pixelSize);
+}
+
+void CoverViewController::showCover()
+{
+    const bool kept = m_coverDrawn.valid() ? m_coverDrawn.get() : QFile::exists(m_coverPath);
+    m_coverSource = kept ? QUrl::fromLocalFile(m_coverPath) : img();
+    Q_EMIT coverSourceChanged();
 }
 
 void CoverViewController::viewDidLoad()
@@ -36,6 +56,7 @@ void CoverViewController::viewDidLoad()
                                   {u"Ok"_s}, {}});
     }
     Wallpapers::enableUnsetWallpapers();
+    showCover();
 }
 
 void CoverViewController::viewWillAppear()

@@ -4,7 +4,9 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QSize>
 #include <QUrl>
+#include <future>
 
 // The home screen: the book's cover and a drop-down menu leading to every other screen. On the
 // first launch it fills the page table before the cover is shown.
@@ -16,6 +18,8 @@ class CoverViewController : public QObject
     Q_PROPERTY(bool menuOpen READ menuOpen NOTIFY menuOpenChanged)
     Q_PROPERTY(bool ImportExportButtonHidden READ ImportExportButtonHidden NOTIFY menuOpenChanged)
     Q_PROPERTY(QUrl img READ img CONSTANT)
+    // What the cover shows: the picture kept in the data folder once it is drawn there.
+    Q_PROPERTY(QUrl coverSource READ coverSource NOTIFY coverSourceChanged)
 
 public:
     explicit CoverViewController(QObject *parent = nullptr);
@@ -23,6 +27,10 @@ public:
     bool menuOpen() const { return m_menuOpen; }
     bool ImportExportButtonHidden() const { return m_ImportExportButtonHidden; }
     QUrl img() const;
+    QUrl coverSource() const { return m_coverSource; }
+    // Starts drawing the kept cover for this size in pixels when it is missing, on another
+    // thread, so that a first launch draws while it seeds; viewDidLoad shows it when done.
+    Q_INVOKABLE void prepareCover(QSize pixelSize, qreal scale);
 
     Q_INVOKABLE void viewDidLoad();
     Q_INVOKABLE void viewWillAppear();
@@ -38,12 +46,17 @@ public:
 
 Q_SIGNALS:
     void menuOpenChanged();
+    void coverSourceChanged();
 
 private:
     void openList(const QString &selectedList);
     void flipMenu();
+    void showCover();
 
     PageSeeding m_seeding;
     bool m_menuOpen = false;
     bool m_ImportExportButtonHidden = true;
+    QUrl m_coverSource;
+    QString m_coverPath;
+    std::future<bool> m_coverDrawn;
 };

@@ -32,8 +32,39 @@ void PageSeeding::loadPoemPrayers(const QStringList &columns)
         return;
     }
     FileObject = std::get<QString>(read);
-    for (const QString &line : PageFile::lines(*FileObject))
+    const QStringList lines = PageFile::lines(*FileObject);
+    if (lines.isEmpty())
+        return;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    countStoredPages(context);
+    for (const QString &line : lines)
         loadLine(line, columns);
+    // One transaction for the whole book: a save a page would flush the log 732 times.
+    save(context);
+}
+
+std::optional<PageSeeding::Key> PageSeeding::keyOf(const QVariant &month, const QVariant &day, const QVariant &ampm)
+{
+    // An absent value, or text that is no number, equals nothing.
+    if (!month.isValid() || !day.isValid() || !ampm.isValid())
+        return std::nullopt;
+    const EntityDescription &entity = EntityDescription::named(PoemPrayer::entityName);
+    const QVariant m = comparableValue(entity, u"month"_s, month), d = comparableValue(entity, u"day"_s, day);
+    if (!m.isValid() || !d.isValid())
+        return std::nullopt;
+    return Key{m.toLongLong(), d.toLongLong(), ampm.toString()};
+}
+
+// The duplicate check counts the pages the context already holds once, then those it adds.
+void PageSeeding::countStoredPages(ManagedObjectContext &context)
+{
+    m_pagesByKey.clear();
+    std::optional<StoreError> error;
+    const QList<PoemPrayer *> pages = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest(), &error);
+    for (const PoemPrayer *page : pages) {
+        if (const auto key = keyOf(page->valueForKey(u"month"_s), page->valueForKey(u"day"_s), page->valueForKey(u"ampm"_s)))
+            ++m_pagesByKey[*key];
+    }
 }
 
 void PageSeeding::loadLine(const QString &line, const QStringList &columns)
@@ -46,25 +77,25 @@ void PageSeeding::loadLine(const QString &line, const QStringList &columns)
 
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
     // The duplicate check sees the fields as written, before double quotes are removed.
-    FetchRequest request = PoemPrayer::fetchRequest();
-    request.predicate = Predicate::conjunction({Predicate::equals(u"month"_s, themonth),
-                                                Predicate::equals(u"day"_s, theday),
-                                                Predicate::equals(u"ampm"_s, theampm)});
-    std::optional<StoreError> error;
-    const QList<PoemPrayer *> found = context.fetch<PoemPrayer>(request, &error);
-    if (!error) {
-        PoemList = found;
-        resultCount = int(found.size());
-    }
+    const auto key = keyOf(themonth, theday, theampm);
+    resultCount = key ? m_pagesByKey.value(*key) : 0;
     if (resultCount != 0)
         return;
 
-    PoemPrayer *page = context.insertNewObject<PoemPrayer>();
     const auto parsed = PageFile::assignments(pieces, columns);
-    if (const auto *parseError = std::get_if<PageFile::ParseError>(&parsed))
+    if (const auto *parseError = std::get_if<PageFile::ParseError>(&parsed)) {
+        save(context); // the pages before this line stay
         fatalError(u"Fatal error: malformed page line “%1”: %2"_s.arg(line.left(60), parseError->message));
+    }
+    PoemPrayer *page = context.insertNewObject<PoemPrayer>();
     for (const PageFile::Assignment &assignment : std::get<QList<PageFile::Assignment>>(parsed))
         page->setValueForKey(assignment.column, assignment.value);
+    if (const auto stored = keyOf(page->valueForKey(u"month"_s), page->valueForKey(u"day"_s), page->valueForKey(u"ampm"_s)))
+        ++m_pagesByKey[*stored];
+}
+
+void PageSeeding::save(ManagedObjectContext &context)
+{
     if (const auto saveError = context.save())
         Log::line(saveError->unresolvedMessage());
 }

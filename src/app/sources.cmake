@@ -1,6 +1,7 @@
 # Sources of this subsystem, relative to src/.
 list(APPEND LARKWELLS_SOURCES
     app/AppDelegate.h app/AppDelegate.cpp
+    app/CoverCache.h app/CoverCache.cpp
     app/CoverViewController.h app/CoverViewController.cpp
     app/PageFile.h app/PageFile.cpp
     app/PageFileWriter.h app/PageFileWriter.cpp

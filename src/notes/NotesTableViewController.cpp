@@ -82,6 +82,7 @@ void NotesTableViewController::fetch()
     FetchRequest request = Notes::fetchRequest();
     request.sortDescriptors = {{sortKeys[m_segmentIndex], false}};
     m_NotesList = AppDelegate::shared().viewContext().fetch<Notes>(request); // a failed fetch lists nothing
+    m_loweredSearchField.clear();
     reloadData();
 }
 
@@ -91,11 +92,16 @@ void NotesTableViewController::filter()
         m_FilteredNotesList = m_NotesList;
         return;
     }
+    // The searched field is lowered once a fetch, at the first keystroke, not at every one.
+    if (m_loweredSearchField.isEmpty()) {
+        m_loweredSearchField.reserve(m_NotesList.size());
+        for (const Notes *note : std::as_const(m_NotesList))
+            m_loweredSearchField.insert(note, note->valueForKey(searchKeys[m_segmentIndex]).toString().toLower());
+    }
     const QString wanted = m_searchText.toLower();
-    const QString &key = searchKeys[m_segmentIndex];
     m_FilteredNotesList.clear();
     for (Notes *note : std::as_const(m_NotesList)) {
-        if (note->valueForKey(key).toString().toLower().contains(wanted))
+        if (m_loweredSearchField.value(note).contains(wanted))
             m_FilteredNotesList.append(note);
     }
 }

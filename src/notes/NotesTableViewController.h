@@ -59,6 +59,7 @@ private:
 
     QList<Notes *> m_NotesList;
     QList<Notes *> m_FilteredNotesList;
+    QHash<const Notes *, QString> m_loweredSearchField; // the segment's field of each fetched note
     NotesListModel m_rows;
     int m_segmentIndex = 0;
     QString m_searchText;

@@ -180,11 +180,11 @@ void ManagedObjectContext::sortInMemory(QList<ManagedObject *> &objects, const Q
     });
 }
 
-QList<ManagedObject *> ManagedObjectContext::execute(const FetchRequest &request, std::optional<StoreError> *error)
+QSqlQuery *ManagedObjectContext::runSelect(const FetchRequest &request, const EntityDescription &entity,
+                                           const QString &select, std::optional<StoreError> *error)
 {
-    const EntityDescription &entity = EntityDescription::named(request.entityName);
     QVariantList bindings;
-    QString sql = sqlFor(entity).select;
+    QString sql = select;
     if (request.predicate)
         sql += u" WHERE "_s + request.predicate->sql(entity, bindings);
     QStringList order;
@@ -202,8 +202,51 @@ QList<ManagedObject *> ManagedObjectContext::execute(const FetchRequest &request
     if (!query.exec()) {
         if (error)
             *error = errorOf(query);
-        return {};
+        return nullptr;
     }
+    return &query;
+}
+
+bool ManagedObjectContext::hasChangesOf(const QString &entityName) const
+{
+    for (const QList<ManagedObject *> *changes : {&m_inserted, &m_updated, &m_deleted}) {
+        for (const ManagedObject *object : *changes) {
+            if (object->entity().name == entityName)
+                return true;
+        }
+    }
+    return false;
+}
+
+bool ManagedObjectContext::readStoredRows(const FetchRequest &request, const QStringList &columns,
+                                          const std::function<void(const QSqlQuery &)> &row,
+                                          std::optional<StoreError> *error)
+{
+    if (hasChangesOf(request.entityName))
+        return false;
+    const EntityDescription &entity = EntityDescription::named(request.entityName);
+    QStringList quoted;
+    for (const QString &column : columns) {
+        if (!entity.typeOf(column))
+            fatalError(u"Fatal error: the entity %1 has no attribute \"%2\""_s.arg(entity.name, column));
+        quoted.append(u'"' + column + u'"');
+    }
+    QSqlQuery *query = runSelect(request, entity, u"SELECT "_s + quoted.join(u", "_s) + u" FROM \""_s + entity.name + u'"', error);
+    if (!query)
+        return true;
+    while (query->next())
+        row(*query);
+    query->finish();
+    return true;
+}
+
+QList<ManagedObject *> ManagedObjectContext::execute(const FetchRequest &request, std::optional<StoreError> *error)
+{
+    const EntityDescription &entity = EntityDescription::named(request.entityName);
+    QSqlQuery *found = runSelect(request, entity, sqlFor(entity).select, error);
+    if (!found)
+        return {};
+    QSqlQuery &query = *found;
     QList<ManagedObject *> objects;
     while (query.next()) {
         ManagedObject *object = objectForRow(entity, query);

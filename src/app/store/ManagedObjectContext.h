@@ -7,6 +7,7 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QVariantMap>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -39,6 +40,13 @@ public:
         return objects;
     }
 
+    // The stored values of `columns`, row by row in the request's order, read straight from the
+    // store without making objects, for a reader that only copies them out. Returns false, and
+    // reads nothing, while this context holds unsaved changes of the entity: only its objects
+    // show those.
+    bool readStoredRows(const FetchRequest &request, const QStringList &columns,
+                        const std::function<void(const QSqlQuery &)> &row, std::optional<StoreError> *error = nullptr);
+
     template<typename T>
     T *insertNewObject()
     {
@@ -67,6 +75,10 @@ private:
         QStringList valueNames;
     };
     const EntitySql &sqlFor(const EntityDescription &entity);
+    // The prepared, bound query of a request selecting `select` columns; nullptr on a failure.
+    QSqlQuery *runSelect(const FetchRequest &request, const EntityDescription &entity, const QString &select,
+                         std::optional<StoreError> *error);
+    bool hasChangesOf(const QString &entityName) const;
     StoreError errorOf(const QSqlQuery &query) const;
     std::optional<StoreError> execTransactionStatement(const QString &sql, const char *failure);
     void writeObject(ManagedObject *object, std::optional<StoreError> &error);

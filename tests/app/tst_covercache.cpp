@@ -1,0 +1,82 @@
+#include "CoverViewController.h"
+#include "PreferenceKeys.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+// The cover kept under the data folder: drawn once a size, read back by later launches, the
+// picture of an earlier size removed, and the vector cover whenever nothing can be kept.
+class TestCoverCache : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsOnePicture_data();
+    void keepsOnePicture();
+};
+
+namespace {
+// One launch's cover screen: the size it asks for, then its start-up.
+QUrl launch(QSize pixelSize)
+{
+    CoverViewController cover;
+    cover.prepareCover(pixelSize, 1);
+    cover.viewDidLoad();
+    return cover.coverSource();
+}
+}
+
+void TestCoverCache::keepsOnePicture_data()
+{
+    QTest::addColumn<QSize>("first");
+    QTest::addColumn<QSize>("second");
+    QTest::addColumn<bool>("folderBlocked");
+    QTest::addColumn<bool>("kept");
+
+    QTest::newRow("the same size again reads the kept picture") << QSize(240, 360) << QSize(240, 360) << false << true;
+    QTest::newRow("a new size replaces the old picture") << QSize(240, 360) << QSize(300, 450) << false << true;
+    QTest::newRow("no size yet: the vector cover") << QSize() << QSize(0, 450) << false << false;
+    QTest::newRow("no folder for the cache: the vector cover") << QSize(240, 360) << QSize(240, 360) << true << false;
+}
+
+void TestCoverCache::keepsOnePicture()
+{
+    QFETCH(QSize, first);
+    QFETCH(QSize, second);
+    QFETCH(bool, folderBlocked);
+    QFETCH(bool, kept);
+    TestEnvironment environment;
+    Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true); // no seeding here
+    const QDir data(environment.dataDirectory());
+    if (folderBlocked) {
+        QFile blocker(data.filePath(u"cache"_s)); // a file where the folder would go
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+    }
+
+    const QUrl drawn = launch(first);
+    const QDateTime drawnAt = QFileInfo(drawn.toLocalFile()).lastModified();
+    const QUrl url = launch(second);
+    const QStringList pictures = QDir(data.filePath(u"cache"_s)).entryList({u"Cover-*"_s}, QDir::Files);
+    if (!kept) {
+        QCOMPARE(url, CoverViewController().img());
+        QVERIFY(pictures.isEmpty());
+        return;
+    }
+    QCOMPARE(pictures, QStringList{url.fileName()});
+    const QImage picture(url.toLocalFile());
+    QCOMPARE(picture.size(), second);
+    // Drawn, not blank: the night sky at the top is darker than the dawn below it.
+    QVERIFY(qGray(picture.pixel(second.width() / 2, 2)) < qGray(picture.pixel(second.width() / 2, second.height() / 2)));
+    if (first == second) {
+        QCOMPARE(url, drawn);
+        QCOMPARE(QFileInfo(url.toLocalFile()).lastModified(), drawnAt); // read back, not drawn again
+    }
+}
+
+QTEST_MAIN(TestCoverCache)
+#include "tst_covercache.moc"
