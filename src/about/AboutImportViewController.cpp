@@ -71,8 +71,8 @@ void AboutImportViewController::viewDidLoad()
     if (!filePickerInstalled(qmlEngine(this))) {
         Log::line(u"The file picker needs the QML module Qt.labs.folderlistmodel "
                   "(Debian package qml6-module-qt-labs-folderlistmodel)."_s);
-        Alerts::shared().present({u"No File Picker"_s,
-                                  u"Choosing a file needs the package qml6-module-qt-labs-folderlistmodel."_s,
+        Alerts::shared().present({tr("No File Picker"),
+                                  tr("Choosing a file needs the package qml6-module-qt-labs-folderlistmodel."),
                                   {u"OK"_s}, {}});
         return;
     }

@@ -32,13 +32,13 @@ Page {
         UpdateFileButton {
             objectName: "SpecialDaysButton"
             Layout.fillWidth: true
-            text: qsTr("Special Days")
+            text: "Special Days"
             onClicked: controller.SpecialDaysButtonClicked()
         }
         UpdateFileButton {
             objectName: "AboutButton"
             Layout.fillWidth: true
-            text: qsTr("About")
+            text: "About"
             onClicked: controller.AboutButtonClicked()
         }
     }

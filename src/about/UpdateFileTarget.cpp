@@ -4,6 +4,7 @@
 #include "Bundle.h"
 #include "Sharing.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -23,7 +24,7 @@ std::optional<QString> UpdateFileTarget::write(const QString &path, const QStrin
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.commit())
         return std::nullopt;
-    return u"The file %1 could not be written: %2"_s.arg(path, file.errorString());
+    return QCoreApplication::translate("UpdateFileTarget", "The file %1 could not be written: %2").arg(path, file.errorString());
 }
 
 std::optional<QString> UpdateFileTarget::read(const QString &path)
