@@ -41,6 +41,12 @@ private:
 
 namespace {
 const QString cover = u"Cover with its menu"_s;
+// Screens in a second state that adds controls: the typing reader's Done button, the note's
+// date picker. Each opens by its segue, then takes one step.
+const QString typing = u" while typing"_s;
+const QString picking = u" picking a date"_s;
+const QStringList states{u"ViewPoemSegue"_s + typing, u"SpecialDayReaderSegue"_s + typing, u"AboutEditSegue"_s + typing,
+                         u"EditNotesSegue"_s + picking};
 
 // A few notes of our own, so the notes list has rows and the editor has text.
 void insertNotes()
@@ -186,7 +192,7 @@ void TestLayout::everyScreenFits_data()
 {
     QTest::addColumn<QString>("screen");
     QTest::addColumn<QSize>("size");
-    const QStringList screens = QStringList{cover} + Navigator::shared().segues();
+    const QStringList screens = QStringList{cover} + Navigator::shared().segues() + states;
     for (const QSize size : {QSize(360, 640), QSize(412, 915), QSize(768, 1024), QSize(1024, 768)}) {
         for (const QString &screen : screens) {
             const QString row = u"%1 %2x%3"_s.arg(screen).arg(size.width()).arg(size.height());
@@ -203,9 +209,21 @@ void TestLayout::showScreen(const QString &screen)
         return;
     }
     selectFirstRows();
-    Navigator::shared().performSegue(screen);
+    Navigator::shared().performSegue(screen.section(u' ', 0, 0));
     QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
     dismissAlerts();
+    if (screen.endsWith(typing)) {
+        QQuickItem *surface = waitForItem(m_window, u"scroller"_s);
+        QVERIFY(surface);
+        surface->property("textView").value<QQuickItem *>()->forceActiveFocus();
+        QVERIFY(waitForItem(m_window, u"DoneButton"_s));
+    } else if (screen.endsWith(picking)) {
+        QQuickItem *field = waitForItem(m_window, u"DateTextField"_s);
+        QVERIFY(field);
+        field->forceActiveFocus();
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QVERIFY(waitForItem(m_window, u"monthWheel"_s));
+    }
 }
 
 void TestLayout::everyScreenFits()
