@@ -49,13 +49,13 @@ Page {
         UpdateFileButton {
             objectName: "SpecialDaysButton"
             Layout.fillWidth: true
-            text: qsTr("Special Days")
+            text: "Special Days"
             onClicked: controller.SpecialDaysButtonClicked()
         }
         UpdateFileButton {
             objectName: "AboutButton"
             Layout.fillWidth: true
-            text: qsTr("About")
+            text: "About"
             onClicked: controller.AboutButtonClicked()
         }
         UpdateFileButton {

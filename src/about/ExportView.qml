@@ -43,7 +43,7 @@ Page {
                 objectName: "SaveButton"
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
-                text: qsTr("Save To Files")
+                text: "Save To Files"
                 enabled: root.controller.SaveButtonEnabled
                 onClicked: root.controller.SaveToFiles()
             }

@@ -13,7 +13,7 @@
 using namespace Qt::StringLiterals;
 
 ExportViewController::ExportViewController(QObject *parent)
-    : ExportViewController({u"Export Pages"_s, u"PoemPrayer.txt"_s, u"Larkwell Books Update Text File"_s,
+    : ExportViewController({tr("Export Pages"), u"PoemPrayer.txt"_s, u"Larkwell Books Update Text File"_s,
                             u"Attachment: Larkwell Books Text File"_s},
                            parent)
 {

@@ -7,8 +7,8 @@
 using namespace Qt::StringLiterals;
 
 SpecialDaysExportViewController::SpecialDaysExportViewController(QObject *parent)
-    : ExportViewController({u"Export Special Days"_s, u"SpecialDays.txt"_s, u"Larkwell Books Special Days Update Text File"_s,
-                            u"Attachment: Larkwell Books Special Days Text File"_s},
+    : ExportViewController({tr("Export Special Days"), u"SpecialDays.txt"_s, tr("Larkwell Books Special Days Update Text File"),
+                            tr("Attachment: Larkwell Books Special Days Text File")},
                            parent)
 {
 }

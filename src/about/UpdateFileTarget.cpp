@@ -6,6 +6,7 @@
 
 #include "Log.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -27,7 +28,7 @@ std::optional<QString> UpdateFileTarget::write(const QString &path, const QStrin
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.commit())
         return std::nullopt;
-    return u"The file %1 could not be written: %2"_s.arg(path, file.errorString());
+    return QCoreApplication::translate("UpdateFileTarget", "The file %1 could not be written: %2").arg(path, file.errorString());
 }
 
 std::optional<QString> UpdateFileTarget::read(const QString &path)
@@ -60,8 +61,9 @@ bool UpdateFileTarget::filePickerAvailable(const QObject *controller)
     }
     Log::line(u"The file picker needs the QML module Qt.labs.folderlistmodel "
               "(Debian package qml6-module-qt-labs-folderlistmodel)."_s);
-    Alerts::shared().present({u"No File Picker"_s,
-                              u"Choosing a file needs the package qml6-module-qt-labs-folderlistmodel."_s,
+    Alerts::shared().present({QCoreApplication::translate("UpdateFileTarget", "No File Picker"),
+                              QCoreApplication::translate("UpdateFileTarget",
+                                                          "Choosing a file needs the package qml6-module-qt-labs-folderlistmodel."),
                               {u"OK"_s}, {}});
     return false;
 }

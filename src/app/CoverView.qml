@@ -119,7 +119,7 @@ Page {
                 width: parent.width
                 shown: controller.menuOpen
                 onFocusedByKeyboard: item => menu.reveal(item)
-                text: qsTr("Today")
+                text: "Today"
                 enabled: menuButtons.listReady
                 onClicked: controller.TodayButtonClicked()
             }
@@ -128,7 +128,7 @@ Page {
                 width: parent.width
                 shown: controller.menuOpen
                 onFocusedByKeyboard: item => menu.reveal(item)
-                text: qsTr("Good Morning")
+                text: "Good Morning"
                 enabled: menuButtons.listReady
                 onClicked: controller.GoodMorningButtonClicked()
             }
@@ -137,7 +137,7 @@ Page {
                 width: parent.width
                 shown: controller.menuOpen
                 onFocusedByKeyboard: item => menu.reveal(item)
-                text: qsTr("Good Night")
+                text: "Good Night"
                 enabled: menuButtons.listReady
                 onClicked: controller.GoodNightButtonClicked()
             }
@@ -154,11 +154,11 @@ Page {
             Repeater {
                 // Buttons whose screens open through their own transitions.
                 model: [
-                    { outlet: "SpecialDaysButton", title: qsTr("Special Days"), segue: "SpecialDaysSegue" },
+                    { outlet: "SpecialDaysButton", title: "Special Days", segue: "SpecialDaysSegue" },
                     { outlet: "SearchButton", title: qsTr("Search"), segue: "SearchSegue" },
-                    { outlet: "NotesButton", title: qsTr("Notes"), segue: "NotesSegue" },
-                    { outlet: "AboutButton", title: qsTr("About"), segue: "AboutSegue" },
-                    { outlet: "UserDefaultsButton", title: qsTr("User Defaults"), segue: "UserDefaultsSegue" },
+                    { outlet: "NotesButton", title: "Notes", segue: "NotesSegue" },
+                    { outlet: "AboutButton", title: "About", segue: "AboutSegue" },
+                    { outlet: "UserDefaultsButton", title: "User Defaults", segue: "UserDefaultsSegue" },
                     { outlet: "RateShareButton", title: qsTr("Rate & Share"), segue: "SettingsSegue" },
                     { outlet: "ImportExportButton", title: qsTr("Import & Export"), segue: "ImportExportSegue" },
                     { outlet: "ResetButton", title: qsTr("Update Files"), segue: "ExportMenuSegue" }

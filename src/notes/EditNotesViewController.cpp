@@ -198,9 +198,9 @@ void EditNotesViewController::BackButtonClicked()
         return;
     }
     QPointer<EditNotesViewController> self(this);
-    Alerts::shared().present({u"Discard changes?"_s,
-                              u"What you typed in this note will be lost."_s,
-                              {u"Discard"_s, u"Keep Editing"_s},
+    Alerts::shared().present({tr("Discard changes?"),
+                              tr("What you typed in this note will be lost."),
+                              {tr("Discard"), tr("Keep Editing")},
                               [self](int button) {
                                   if (self && button == 0)
                                       Q_EMIT self->dismissRequested();

@@ -118,13 +118,13 @@ Popup {
                 anchors.fill: parent
                 BarButton {
                     objectName: "DoneButton"
-                    text: qsTr("Done")
+                    text: "Done"
                     onClicked: picker.doneClicked(picker.chosenDate())
                 }
                 Item { Layout.fillWidth: true }
                 BarButton {
                     objectName: "TodayButton"
-                    text: qsTr("Today")
+                    text: "Today"
                     onClicked: picker.todayClicked()
                 }
             }

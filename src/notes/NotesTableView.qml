@@ -9,7 +9,7 @@ import Larkwells
 Page {
     id: root
     objectName: "NotesTableView"
-    title: qsTr("Notes")
+    title: "Notes"
     readonly property var unwindTargets: ["unwindToNotesSegue"]
     function unwind(identifier: string) { controller.unwindToNotesSegue() }
 

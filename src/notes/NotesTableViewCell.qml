@@ -65,7 +65,7 @@ SwipeDelegate {
             implicitWidth: 1
             implicitHeight: 1
             Accessible.role: Accessible.Button
-            Accessible.name: qsTr("delete")
+            Accessible.name: "delete"
             Accessible.description: cell.mainText
             Accessible.onPressAction: if (cell.visible && cell.enabled) cell.deleteClicked()
         }
@@ -80,7 +80,7 @@ SwipeDelegate {
         // Placed by the cell's width: the swipe's own parent is gone while the list closes.
         x: cell.width - width
         focusPolicy: Qt.NoFocus
-        text: qsTr("delete")
+        text: "delete"
         Accessible.name: text
         Accessible.ignored: !cell.swipe.complete
         Accessible.onPressAction: if (cell.swipe.complete) deleteAction.clicked()

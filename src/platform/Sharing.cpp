@@ -25,7 +25,7 @@ bool desktopHandles(const QString &scheme)
 
 void reportMailFailure(const QString &detail)
 {
-    Alerts::shared().presentAsync({u"Sending Email"_s, u"The mail program could not be started: "_s + detail, {u"OK"_s}, {}});
+    Alerts::shared().presentAsync({u"Sending Email"_s, Sharing::tr("The mail program could not be started: %1").arg(detail), {u"OK"_s}, {}});
 }
 
 // Runs a desktop helper; a helper that cannot start or ends in failure is reported.
@@ -34,13 +34,13 @@ void runHelper(const QString &program, const QStringList &arguments, const std::
     auto *process = new QProcess;
     QObject::connect(process, &QProcess::errorOccurred, process, [process, program, failed](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
-            failed(program + u" is not installed"_s);
+            failed(Sharing::tr("%1 is not installed").arg(program));
             process->deleteLater();
         }
     });
     QObject::connect(process, &QProcess::finished, process, [process, program, failed](int exitCode, QProcess::ExitStatus status) {
         if (status != QProcess::NormalExit || exitCode != 0)
-            failed(u"%1 ended with status %2"_s.arg(program).arg(exitCode));
+            failed(Sharing::tr("%1 ended with status %2").arg(program).arg(exitCode));
         process->deleteLater();
     });
     process->start(program, arguments);
@@ -118,7 +118,7 @@ void Sharing::saveToFile(const QUrl &file)
 {
     QSaveFile output(file.toLocalFile());
     if (!output.open(QIODevice::WriteOnly) || output.write(text().toUtf8()) < 0 || !output.commit()) {
-        Q_EMIT failed(u"The text could not be saved: "_s + output.errorString());
+        Q_EMIT failed(tr("The text could not be saved: %1").arg(output.errorString()));
         return;
     }
     dismiss(true);
@@ -157,7 +157,7 @@ void Sharing::cancel()
 
 void Sharing::saveDialogUnavailable(const QString &reason)
 {
-    Q_EMIT failed(u"Files cannot be saved here: the file dialog is not installed (%1)."_s.arg(reason));
+    Q_EMIT failed(tr("Files cannot be saved here: the file dialog is not installed (%1).").arg(reason));
 }
 
 void MessageComposer::messageComposeViewControllerDidFinish(Sharing &sharing, Result result)
@@ -189,7 +189,7 @@ void Sharing::saveCopy(const QUrl &target)
     const QString path = target.toLocalFile();
     QFile::remove(path);
     if (!QFile::copy(m_request->filePath, path)) {
-        Q_EMIT failed(u"The file could not be saved to "_s + path);
+        Q_EMIT failed(tr("The file could not be saved to %1").arg(path));
         return;
     }
     dismiss(true);
@@ -200,7 +200,7 @@ void Sharing::openWith()
     if (!sharesFile())
         return;
     runHelper(u"xdg-open"_s, {m_request->filePath}, [this](const QString &detail) {
-        Q_EMIT failed(u"The file could not be opened: "_s + detail);
+        Q_EMIT failed(tr("The file could not be opened: %1").arg(detail));
     });
     dismiss(true);
 }

@@ -25,7 +25,7 @@ Page {
         BarButton {
             objectName: "DoneButton"
             visible: surface.textView.activeFocus
-            text: qsTr("Done")
+            text: "Done"
             onClicked: surface.endEditing()
         }
         BarButton {

@@ -31,7 +31,7 @@ Page {
         BarButton {
             objectName: "DoneButton"
             visible: surface.textView.activeFocus
-            text: qsTr("Done")
+            text: "Done"
             onClicked: surface.endEditing()
         }
         BarButton {

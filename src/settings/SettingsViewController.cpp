@@ -27,13 +27,13 @@ SettingsViewController::SettingsViewController(QObject *parent)
 
 QString SettingsViewController::title() const
 {
-    return u"Rate & Share"_s;
+    return tr("Rate & Share");
 }
 
 QStringList SettingsViewController::rowTitles() const
 {
-    return {u"Rate The Larkwells Book"_s, u"Share The App"_s, u"Share The Web Site"_s, u"Visit The Web Site"_s,
-            u"Send Feedback"_s};
+    return {tr("Rate The Larkwells Book"), tr("Share The App"), tr("Share The Web Site"), tr("Visit The Web Site"),
+            tr("Send Feedback")};
 }
 
 void SettingsViewController::didSelectRowAt(int row)

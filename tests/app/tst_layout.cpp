@@ -1,0 +1,248 @@
+#include "Alerts.h"
+#include "AppDelegate.h"
+#include "Entities.h"
+#include "LayoutCheck.h"
+#include "Navigator.h"
+#include "Selection.h"
+#include "TestSupport.h"
+
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QTest>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+// Every screen, filled with the seeded book, at phone and tablet sizes: no control may sit
+// outside the window beyond scrolling, nor on top of another control.
+class TestLayout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
+    void cleanupTestCase();
+    void checkerSeesFaults_data();
+    void checkerSeesFaults();
+    void everyScreenFits_data();
+    void everyScreenFits();
+
+private:
+    void dismissAlerts();
+    void showScreen(const QString &screen);
+    std::unique_ptr<TestEnvironment> m_environment;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+};
+
+namespace {
+const QString cover = u"Cover with its menu"_s;
+// Screens in a second state that adds controls: the typing reader's Done button, the note's
+// date picker. Each opens by its segue, then takes one step.
+const QString typing = u" while typing"_s;
+const QString picking = u" picking a date"_s;
+const QStringList states{u"ViewPoemSegue"_s + typing, u"SpecialDayReaderSegue"_s + typing, u"AboutEditSegue"_s + typing,
+                         u"EditNotesSegue"_s + picking};
+
+// A few notes of our own, so the notes list has rows and the editor has text.
+void insertNotes()
+{
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    const QStringList subjects{u"Walk by the river"_s, u"A long subject line that runs well past the width of a phone"_s,
+                               u"Bread"_s};
+    for (int i = 0; i < subjects.size(); ++i) {
+        Notes *note = context.insertNewObject<Notes>();
+        note->setSubject(subjects[i]);
+        note->setNotes(u"Thought of the morning page while the kettle sang.\n"_s.repeated(i * 20 + 1));
+        note->setDt(QDateTime(QDate(2026, 3, 4 + i), QTime(7, 30), Qt::UTC));
+        note->setDtstring(u"March %1, 2026"_s.arg(4 + i));
+        note->setYear(2026);
+        note->setMonth(3);
+        note->setDay(qint16(4 + i));
+    }
+    QVERIFY(!context.save());
+}
+
+// The first row of each table, chosen as its list would choose it.
+void selectFirstRows()
+{
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    Selection &selection = Selection::shared();
+    selection.setSelectedList(u"AM"_s);
+    selection.setSelectedSearchText(u"light"_s);
+    const PoemPrayer *page = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).value(0);
+    QVERIFY(page);
+    selection.setSelectedPoemPrayer(page->poemprayer().value_or(QString()));
+    selection.setSelectedDt(page->dt().value_or(QString()));
+    selection.setSelectedAmpm(page->ampm().value_or(QString()));
+    selection.setSelectedMonth(page->month());
+    selection.setSelectedDay(page->day());
+    selection.setSelectedPagenum(page->pagenum());
+    selection.setSelectedFavorite(u"F"_s);
+    const SpecialDay *day = context.fetch<SpecialDay>(SpecialDay::fetchRequest()).value(0);
+    QVERIFY(day);
+    selection.setSelectedSpecialPoem(day->poemprayer().value_or(QString()));
+    selection.setSelectedSpecialDayName(day->dayname().value_or(QString()));
+    selection.setSelectedSpecialAmpm(day->ampm().value_or(QString()));
+    const About *article = context.fetch<About>(About::fetchRequest()).value(0);
+    QVERIFY(article);
+    selection.setSelectedAboutName(article->name().value_or(QString()));
+    selection.setSelectedAboutText(article->aboutText().value_or(QString()));
+    const Notes *note = context.fetch<Notes>(Notes::fetchRequest()).value(1);
+    QVERIFY(note);
+    selection.setEditNoteSubject(note->subject().value_or(QString()));
+    selection.setEditNoteText(note->notes().value_or(QString()));
+    selection.setEditNoteDate(note->dt().value_or(QDateTime()));
+    selection.setEditNoteDtstring(note->dtstring().value_or(QString()));
+    selection.setEditNoteYear(note->year());
+    selection.setEditNoteMonth(note->month());
+    selection.setEditNoteDay(note->day());
+}
+}
+
+void TestLayout::dismissAlerts()
+{
+    while (Alerts::shared().showing())
+        Alerts::shared().dismiss(0);
+}
+
+void TestLayout::initTestCase()
+{
+    m_environment = std::make_unique<TestEnvironment>();
+    QQuickStyle::setStyle(u"Material"_s); // as the application draws itself
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_window = loadMainWindow(*m_engine); // a first launch: the book is seeded
+    QVERIFY(m_window);
+    QTRY_VERIFY(Alerts::shared().showing());
+    dismissAlerts();
+    // The special days and the articles are seeded on the first visit of their lists.
+    for (const QString &list : {u"SpecialDaysSegue"_s, u"AboutSegue"_s}) {
+        Navigator::shared().performSegue(list);
+        QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
+        dismissAlerts();
+        Navigator::shared().popToRoot();
+        QTRY_COMPARE(topPage(m_window), u"CoverView"_s);
+    }
+    insertNotes();
+}
+
+void TestLayout::cleanupTestCase()
+{
+    m_engine.reset();
+    m_environment.reset();
+}
+
+// The checker itself, on small windows of stock controls: what it must flag and what it must let be.
+void TestLayout::checkerSeesFaults_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QStringList>("expected"); // the start of each fault, in order
+
+    const QString button = u"Button { objectName: \"%1\"; x: %2; y: %3; width: 90; height: 40 }"_s;
+    QTest::newRow("side by side") << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(90).arg(0) << QStringList{};
+    QTest::newRow("overlapping buttons") << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(60).arg(0)
+                                         << QStringList{u"overlap: a [0,0 90x40] and b"_s};
+    QTest::newRow("a field under a button")
+        << u"TextField { objectName: \"f\"; width: 150 }"_s + button.arg(u"b"_s).arg(100).arg(0)
+        << QStringList{u"overlap: f"_s};
+    QTest::newRow("below the window") << button.arg(u"low"_s).arg(0).arg(250) << QStringList{u"out of reach: low"_s};
+    QTest::newRow("below the window in a scrolling view")
+        << u"Flickable { anchors.fill: parent; contentHeight: 400; clip: true; %1 }"_s.arg(button.arg(u"low"_s).arg(0).arg(300))
+        << QStringList{};
+    QTest::newRow("beyond what the view scrolls")
+        << u"Flickable { anchors.fill: parent; contentHeight: 200; clip: true; %1 }"_s.arg(button.arg(u"low"_s).arg(0).arg(300))
+        << QStringList{u"out of reach: low"_s};
+    QTest::newRow("hidden and disabled ones")
+        << button.arg(u"a"_s).arg(0).arg(0) + u"Button { visible: false } Button { enabled: false; width: 90 }"_s << QStringList{};
+    QTest::newRow("a check box in its row")
+        << u"Button { width: 200; height: 60; CheckBox { anchors.centerIn: parent } }"_s << QStringList{};
+    QTest::newRow("a popup over the screen")
+        << button.arg(u"a"_s).arg(0).arg(0) + u"Popup { visible: true; width: 200; height: 100; Button { text: \"In\" } }"_s
+        << QStringList{};
+    QTest::newRow("rows scrolled under a bar")
+        << button.arg(u"bar"_s).arg(0).arg(0)
+               + u"ListView { y: 40; width: 200; height: 160; clip: true; model: 10; Component.onCompleted: contentY = 100;"
+                 " delegate: Button { width: 200; height: 40; text: \"row\" } }"_s
+        << QStringList{};
+}
+
+void TestLayout::checkerSeesFaults()
+{
+    QFETCH(QString, body);
+    QFETCH(QStringList, expected);
+    QQmlComponent component(m_engine.get());
+    component.setData(u"import QtQuick\nimport QtQuick.Controls\nWindow { width: 200; height: 200; visible: true\n%1\n}"_s
+                          .arg(body).toUtf8(), QUrl());
+    std::unique_ptr<QObject> object(component.create());
+    auto *window = qobject_cast<QQuickWindow *>(object.get());
+    QVERIFY2(window, qPrintable(component.errorString()));
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QTest::qWait(500); // the popup's opening fade
+    const QStringList faults = layoutFaults(window);
+    QCOMPARE(faults.size(), expected.size());
+    for (qsizetype i = 0; i < faults.size(); ++i)
+        QVERIFY2(faults[i].startsWith(expected[i]), qPrintable(faults[i]));
+}
+
+void TestLayout::everyScreenFits_data()
+{
+    QTest::addColumn<QString>("screen");
+    QTest::addColumn<QSize>("size");
+    const QStringList screens = QStringList{cover} + Navigator::shared().segues() + states;
+    for (const QSize size : {QSize(360, 640), QSize(412, 915), QSize(768, 1024), QSize(1024, 768)}) {
+        for (const QString &screen : screens) {
+            const QString row = u"%1 %2x%3"_s.arg(screen).arg(size.width()).arg(size.height());
+            QTest::newRow(qPrintable(row)) << screen << size;
+        }
+    }
+}
+
+void TestLayout::showScreen(const QString &screen)
+{
+    if (screen == cover) {
+        click(m_window, waitForItem(m_window, u"ControlButton"_s));
+        QVERIFY(waitForItem(m_window, u"TodayButton"_s));
+        return;
+    }
+    selectFirstRows();
+    Navigator::shared().performSegue(screen.section(u' ', 0, 0));
+    QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
+    dismissAlerts();
+    if (screen.endsWith(typing)) {
+        QQuickItem *surface = waitForItem(m_window, u"scroller"_s);
+        QVERIFY(surface);
+        surface->property("textView").value<QQuickItem *>()->forceActiveFocus();
+        QVERIFY(waitForItem(m_window, u"DoneButton"_s));
+    } else if (screen.endsWith(picking)) {
+        QQuickItem *field = waitForItem(m_window, u"DateTextField"_s);
+        QVERIFY(field);
+        field->forceActiveFocus();
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QVERIFY(waitForItem(m_window, u"monthWheel"_s));
+    }
+}
+
+void TestLayout::everyScreenFits()
+{
+    QFETCH(QString, screen);
+    QFETCH(QSize, size);
+    Navigator::shared().popToRoot();
+    QTRY_COMPARE(topPage(m_window), u"CoverView"_s);
+    m_window->resize(size);
+    QTRY_COMPARE(m_window->contentItem()->size(), QSizeF(size));
+    showScreen(screen);
+    if (QTest::currentTestFailed())
+        return;
+    QTest::qWait(800); // opening pickers and late layouts settle
+    dismissAlerts();
+    const QStringList faults = layoutFaults(m_window);
+    QVERIFY2(faults.isEmpty(), qPrintable(u"%1 at %2x%3:\n  "_s.arg(screen).arg(size.width()).arg(size.height())
+                                          + faults.join(u"\n  "_s)));
+}
+
+QTEST_MAIN(TestLayout)
+#include "tst_layout.moc"
