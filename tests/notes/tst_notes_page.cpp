@@ -4,7 +4,6 @@
 #include "Entities.h"
 #include "Navigator.h"
 #include "TestSupport.h"
-#include "UserDefaults.h"
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -47,14 +46,9 @@ void TestNotesPage::writeFindEditDelete()
     TestEnvironment environment;
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     Clock::set([] { return QDateTime(QDate(2027, 3, 3), QTime(12, 0)); });
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"NotesButton"_s, u"NotesTableView"_s);
     QVERIFY(window);
-
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"NotesButton"_s));
-    QTRY_COMPARE(topPage(window), u"NotesTableView"_s);
     click(window, waitForItem(window, u"AddButton"_s));
     QTRY_COMPARE(topPage(window), u"EditNotesView"_s);
     QCOMPARE(waitForItem(window, u"DateTextField"_s)->property("text").toString(), u"Wednesday, March 3, 2027"_s);

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void valuesKeepTheirTypeAcrossRestart();
     void wrongTypeIsFatal_data();
     void wrongTypeIsFatal();
-    void damagedFileIsKeptAside();
 };
 
 void TestUserDefaults::valuesKeepTheirTypeAcrossRestart_data()
@@ -95,21 +94,6 @@ void TestUserDefaults::wrongTypeIsFatal()
     if (fatal)
         QVERIFY2(message.startsWith(u"Fatal error: the setting \"key\" holds a value that is not "_s), qPrintable(message));
     QVERIFY(!Preferences::integerIfPresent(PreferenceKey{u"absent"_s, UserDefaults::Type::Integer, {}}));
-}
-
-void TestUserDefaults::damagedFileIsKeptAside()
-{
-    TestEnvironment environment;
-    const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("{ not json");
-    file.close();
-    UserDefaults::setStandardDirectory(environment.dataDirectory());
-    QVERIFY(!UserDefaults::standard().contains(u"anything"_s));
-    QVERIFY(QFile::exists(path + u".damaged"_s));
-    UserDefaults::standard().set(u"x"_s, 1);
-    QCOMPARE(UserDefaults(path).integerForKey(u"x"_s), 1);
 }
 
 QTEST_GUILESS_MAIN(TestUserDefaults)

@@ -8,7 +8,6 @@
 #include "UserDefaults.h"
 
 #include <QTest>
-#include <QTextBlock>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -24,20 +23,6 @@ void select(const QString &ampm, const QString &dt, const QString &text, const Q
     selection.setSelectedFavorite(u"F"_s);
 }
 
-// The text the rich text shows, and the pieces of it on a yellow background.
-std::pair<QString, QStringList> shownAndMarked(const QString &html)
-{
-    QTextDocument document;
-    document.setHtml(html);
-    QStringList marked;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            if (it.fragment().charFormat().background().color() == QColor(Qt::yellow))
-                marked.append(it.fragment().text());
-        }
-    }
-    return {document.toPlainText(), marked};
-}
 }
 
 class TestSearchReader : public QObject
@@ -107,9 +92,10 @@ void TestSearchReader::composesAndMarks()
     QCOMPARE(controller.title(), u"Search Poems/Prayers"_s);
     QCOMPARE(Selection::shared().selectedPoemPrayer(), controller.CombinedText());
     QCOMPARE(controller.shownText(), shown);
-    const auto [plain, marks] = shownAndMarked(controller.PoemPrayerText());
-    QCOMPARE(plain, shown);
-    QCOMPARE(marks, marked);
+    QTextDocument document;
+    document.setHtml(controller.PoemPrayerText());
+    QCOMPARE(document.toPlainText(), shown);
+    QCOMPARE(markedFragments(document), marked);
     QCOMPARE(controller.firstMatchPosition(), marked.isEmpty() ? -1 : int(shown.indexOf(marked.first())));
     QCOMPARE(controller.appearance()->styled(), styled);
     if (styled)

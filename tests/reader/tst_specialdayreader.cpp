@@ -133,14 +133,9 @@ void TestSpecialDayReader::listReaderAndBack()
     TestEnvironment environment;
     environment.addBundleFile(u"SpecialDays.txt"_s,
                               "[SPECIALDAYS]\r\nPM^Candlemas^Light kept@#@for the dark\r\nAM^Candlemas^Morning light\r\n");
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"SpecialDaysButton"_s, u"SpecialDaysTableView"_s);
     QVERIFY(window);
-
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"SpecialDaysButton"_s));
-    QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
     QVERIFY(environment.logLines.contains(u"First Launch"_s));
     QQuickItem *nightRow = waitForItem(window, u"row-1"_s);
     QVERIFY(nightRow);

@@ -108,7 +108,7 @@ void TestDamaged::damagedStoreStopsAndIsKept()
         message = error.message();
     }
     QVERIFY2(message.startsWith(reason), qPrintable(message));
-    QVERIFY2(message.contains(path), qPrintable(message));
+    QVERIFY2(message.contains(u", {"_s) && message.contains(path), qPrintable(message));
     QCOMPARE(contentsOf(path), bytes);
     QCOMPARE(QFileInfo(path).lastModified(), modified);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);

@@ -46,3 +46,13 @@ void click(QQuickWindow *window, QQuickItem *item);
 QQuickItem *currentScreen(QQuickWindow *window);
 // The object name of the screen on top, once the stack has stopped moving; empty while it moves.
 QString topPage(QQuickWindow *window);
+// The application's window past its first launch, with `page` opened from the cover's menu
+// button `menuButton`; null when any step fails.
+QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page);
+
+// Answers every alert showing, the first button each time.
+void dismissAlerts();
+
+class QTextDocument;
+// The pieces of the document's text set on a yellow background (the marked matches).
+QStringList markedFragments(const QTextDocument &document);
