@@ -52,7 +52,7 @@ private Q_SLOTS:
     void aboutFileSortedByNameWithoutNamelessArticles();
     void aboutArticleWithoutTextCannotBeWritten();
     void aboutExportThenImportGivesTheSameArticles();
-    void specialDaysFileAndItsRoundTrip();
+    void specialDaysFile();
     void snapshotsKeepTheNewestFive();
     void firstLaunchSeedingCopiesTheStoreFirst();
 };
@@ -131,25 +131,16 @@ void TestUpdateFiles::aboutExportThenImportGivesTheSameArticles()
 
 }
 
-void TestUpdateFiles::specialDaysFileAndItsRoundTrip()
+void TestUpdateFiles::specialDaysFile()
 {
     TestEnvironment environment;
     const QList<SpecialDay *> days = insertDays({{u"AM"_s, u"Midsummer"_s, u"Long light\nshort night"_s},
                                                  {u"PM"_s, u"Quiet Day"_s, u"-"_s},
                                                  {u"-"_s, u"Nameless"_s, u"A line"_s}});
-    const QString text = QString::fromUtf8(std::get<QByteArray>(SpecialDayFile::write(SpecialDaysExportViewController::recordsOf(days))));
-    QCOMPARE(text.toUtf8(), golden(u"specialdays.txt"_s));
+    // The bytes; reading them back is the special-day file's own round trip.
+    QCOMPARE(std::get<QByteArray>(SpecialDayFile::write(SpecialDaysExportViewController::recordsOf(days))),
+             golden(u"specialdays.txt"_s));
     QCOMPARE(std::get<QByteArray>(SpecialDayFile::write({})), "[SPECIALDAYS]\n");
-
-    const auto read = SpecialDayFile::records(text);
-    QVERIFY(std::holds_alternative<QList<SpecialDayFile::Record>>(read));
-    const auto records = std::get<QList<SpecialDayFile::Record>>(read);
-    QCOMPARE(records.size(), days.size());
-    for (qsizetype i = 0; i < days.size(); ++i) {
-        const QStringList expected{days[i]->ampm().value_or(QString()), days[i]->dayname().value_or(QString()),
-                                   days[i]->poemprayer().value_or(QString())};
-        QCOMPARE(records[i].fields, expected);
-    }
 }
 
 void TestUpdateFiles::snapshotsKeepTheNewestFive()

@@ -168,7 +168,7 @@ void TestSpecialDays::choosingADayFillsTheSelection()
 
 void TestSpecialDays::writerRoundTrips()
 {
-    const QByteArray file = "[SPECIALDAYS]\nAM^New Year’s Day^First@#@@#@Second\nPM^A@#@B^one\nPM^Short\n"_ba;
+    const QByteArray file = "[SPECIALDAYS]\nAM^New Year’s Day^First@#@@#@Second\nPM^A@#@B^one\nPM^Short\n^No time^x\n"_ba;
     const QList<SpecialDayFile::Record> records = parsed(file);
     const auto written = SpecialDayFile::write(records);
     QCOMPARE(std::get<QByteArray>(written), file);
