@@ -1,7 +1,6 @@
 #pragma once
 
-#include "AppDelegate.h"
-#include "Entities.h"
+#include "PageRows.h"
 
 #include <QStringList>
 
@@ -23,9 +22,5 @@ inline void insertAbouts(const QStringList &rows)
 // The stored articles in insertion order, read through a fresh connection.
 inline QStringList storedAbouts()
 {
-    const auto container = loadedContainer();
-    QStringList rows;
-    for (About *article : container->viewContext().fetch<About>(About::fetchRequest()))
-        rows.append(article->name().value_or(QStringLiteral("-")) + u'|' + article->aboutText().value_or(QStringLiteral("-")));
-    return rows;
+    return storedRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")});
 }

@@ -4,6 +4,7 @@
 #include "Entities.h"
 #include "FatalError.h"
 #include "PageFile.h"
+#include "PageRows.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 #include "Wallpapers.h"
@@ -17,17 +18,7 @@ namespace {
 // Each page as "dt|ampm|month|day|pagenum|favorite|text", absent values as "-", in row order.
 QStringList storedPages()
 {
-    const auto container = loadedContainer();
-    QStringList rows;
-    for (PoemPrayer *page : container->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest())) {
-        QStringList fields;
-        for (const QString &column : PageFile::columns) {
-            const QVariant value = page->valueForKey(column);
-            fields.append(value.isValid() ? value.toString() : u"-"_s);
-        }
-        rows.append(fields.join(u'|'));
-    }
-    return rows;
+    return storedRows<PoemPrayer>(PageFile::columns);
 }
 
 QByteArray windows1250(const QString &text)

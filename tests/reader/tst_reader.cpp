@@ -23,15 +23,6 @@ void select(const QString &ampm, const QString &dt, const QString &text, const Q
     selection.setSelectedFavorite(favorite);
 }
 
-QStringList storedPages()
-{
-    QStringList rows;
-    const auto container = loadedContainer();
-    for (PoemPrayer *page : container->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()))
-        rows.append(page->dt().value_or(u"-"_s) + u'|' + page->favorite().value_or(u"-"_s) + u'|' + page->poemprayer().value_or(u"-"_s));
-    return rows;
-}
-
 // A scripted random source: hands out the given draws and records each bound asked for.
 struct Draws {
     QList<int> values;
@@ -173,7 +164,7 @@ void TestReader::favouriteSavesExactlyOnePage()
     controller.CheckBoxChecked(1);
 
     QCOMPARE(Selection::shared().selectedFavorite(), u"T"_s);
-    QCOMPARE(storedPages(), stored);
+    QCOMPARE(storedRows<PoemPrayer>({u"dt"_s, u"favorite"_s, u"poemprayer"_s}), stored);
 }
 
 void TestReader::stepperMovesOnePointAndStoresTheSize()

@@ -24,15 +24,6 @@ void select(const QString &ampm, const QString &dayName, const QString &poem)
     selection.setSelectedSpecialPoem(poem);
 }
 
-QStringList storedDays()
-{
-    QStringList rows;
-    for (SpecialDay *day : AppDelegate::shared().viewContext().fetch<SpecialDay>(SpecialDay::fetchRequest()))
-        rows.append(day->ampm().value_or(u"-"_s) + u'|' + day->dayname().value_or(u"-"_s) + u'|'
-                    + day->poemprayer().value_or(u"-"_s));
-    return rows;
-}
-
 }
 
 class TestSpecialDayReader : public QObject
@@ -120,8 +111,7 @@ void TestSpecialDayReader::saveWritesOnlyForHeadingWords()
 
     controller.SaveSpecialDays();
 
-    AppDelegate::shared().reset(); // read back what reached the file
-    QCOMPARE(storedDays(), stored);
+    QCOMPARE(storedRows<SpecialDay>({u"ampm"_s, u"dayname"_s, u"poemprayer"_s}), stored); // what reached the file
     QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
     QCOMPARE(unwinds.size(), 1);
     QCOMPARE(unwinds.first().first().toString(), u"unwindToSpecialDaysSegue"_s);

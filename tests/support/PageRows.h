@@ -21,6 +21,24 @@ inline void insertPages(const QStringList &rows)
     context.save();
 }
 
+// What a fresh open of the store holds, as after a restart: each T as its `columns` joined by
+// "|", with "-" for a value never set.
+template <typename T>
+QStringList storedRows(const QStringList &columns)
+{
+    const auto container = loadedContainer();
+    QStringList rows;
+    for (const T *object : container->viewContext().template fetch<T>(T::fetchRequest())) {
+        QStringList fields;
+        for (const QString &column : columns) {
+            const QVariant value = object->valueForKey(column);
+            fields.append(value.isValid() ? value.toString() : QStringLiteral("-"));
+        }
+        rows.append(fields.join(u'|'));
+    }
+    return rows;
+}
+
 // Special days written straight into the test's store: "ampm|dayname|poemprayer", with "-" for
 // a value left unset.
 inline void insertSpecialDays(const QStringList &rows)
