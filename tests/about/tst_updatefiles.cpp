@@ -23,22 +23,6 @@ QByteArray golden(const QString &name)
     QFile file(QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing golden file");
 }
-
-QList<SpecialDay *> insertDays(const QList<QStringList> &rows)
-{
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    QList<SpecialDay *> days;
-    for (const QStringList &row : rows) {
-        SpecialDay *day = context.insertNewObject<SpecialDay>();
-        for (int i = 0; i < 3; ++i) {
-            if (row[i] != u"-")
-                day->setValueForKey(SpecialDayFile::columns[i], row[i]);
-        }
-        days.append(day);
-    }
-    context.save();
-    return days;
-}
 }
 
 // The writers against golden files, their round trips through the readers, and the store copies.
@@ -134,9 +118,8 @@ void TestUpdateFiles::aboutExportThenImportGivesTheSameArticles()
 void TestUpdateFiles::specialDaysFile()
 {
     TestEnvironment environment;
-    const QList<SpecialDay *> days = insertDays({{u"AM"_s, u"Midsummer"_s, u"Long light\nshort night"_s},
-                                                 {u"PM"_s, u"Quiet Day"_s, u"-"_s},
-                                                 {u"-"_s, u"Nameless"_s, u"A line"_s}});
+    const QList<SpecialDay *> days = insertSpecialDays({u"AM|Midsummer|Long light\nshort night"_s, u"PM|Quiet Day|-"_s,
+                                                        u"-|Nameless|A line"_s});
     // The bytes; reading them back is the special-day file's own round trip.
     QCOMPARE(std::get<QByteArray>(SpecialDayFile::write(SpecialDaysExportViewController::recordsOf(days))),
              golden(u"specialdays.txt"_s));

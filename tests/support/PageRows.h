@@ -3,22 +3,24 @@
 #include "AppDelegate.h"
 #include "Entities.h"
 
-// Pages written straight into the test's store: "dt|ampm|month|day|pagenum|favorite|text",
-// with "-" for a value left unset.
-inline void insertPages(const QStringList &rows)
+// Rows written straight into the test's store: each row its `columns` joined by "|", with "-"
+// for a value left unset.
+template <typename T>
+QList<T *> insertRows(const QStringList &columns, const QStringList &rows)
 {
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const QStringList columns{QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
-                              QStringLiteral("pagenum"), QStringLiteral("favorite"), QStringLiteral("poemprayer")};
+    QList<T *> inserted;
     for (const QString &row : rows) {
-        PoemPrayer *page = context.insertNewObject<PoemPrayer>();
+        T *object = context.insertNewObject<T>();
         const QStringList fields = row.split(u'|');
         for (qsizetype i = 0; i < fields.size(); ++i) {
             if (fields[i] != u"-")
-                page->setValueForKey(columns[i], fields[i]);
+                object->setValueForKey(columns[i], fields[i]);
         }
+        inserted.append(object);
     }
     context.save();
+    return inserted;
 }
 
 // What a fresh open of the store holds, as after a restart: each T as its `columns` joined by
@@ -39,19 +41,16 @@ QStringList storedRows(const QStringList &columns)
     return rows;
 }
 
-// Special days written straight into the test's store: "ampm|dayname|poemprayer", with "-" for
-// a value left unset.
-inline void insertSpecialDays(const QStringList &rows)
+// Pages: "dt|ampm|month|day|pagenum|favorite|text".
+inline void insertPages(const QStringList &rows)
 {
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const QStringList columns{QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")};
-    for (const QString &row : rows) {
-        SpecialDay *day = context.insertNewObject<SpecialDay>();
-        const QStringList fields = row.split(u'|');
-        for (qsizetype i = 0; i < fields.size(); ++i) {
-            if (fields[i] != u"-")
-                day->setValueForKey(columns[i], fields[i]);
-        }
-    }
-    context.save();
+    insertRows<PoemPrayer>({QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
+                            QStringLiteral("pagenum"), QStringLiteral("favorite"), QStringLiteral("poemprayer")},
+                           rows);
+}
+
+// Special days: "ampm|dayname|poemprayer".
+inline QList<SpecialDay *> insertSpecialDays(const QStringList &rows)
+{
+    return insertRows<SpecialDay>({QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")}, rows);
 }
