@@ -2,7 +2,6 @@
 #include "AppDelegate.h"
 #include "CoverViewController.h"
 #include "Entities.h"
-#include "FatalError.h"
 #include "PageFile.h"
 #include "PageRows.h"
 #include "TestSupport.h"
@@ -138,12 +137,8 @@ void TestSeeding::malformedLineIsFatal()
     environment.addBundleFile(u"Book.txt"_s, file.toLatin1());
 
     CoverViewController cover;
-    try {
-        cover.viewDidLoad();
-        QFAIL("a malformed page line must stop the application");
-    } catch (const FatalErrorException &error) {
-        QVERIFY2(error.message().contains(message), qPrintable(error.message()));
-    }
+    const QString stop = fatalStop([&] { cover.viewDidLoad(); });
+    QVERIFY2(stop.contains(message), qPrintable(stop));
     AppDelegate::shared().reset(); // drop the half-made page
     QCOMPARE(storedPages(), pagesBefore);
     QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));

@@ -1,4 +1,3 @@
-#include "FatalError.h"
 #include "Navigator.h"
 #include "PageRows.h"
 #include "Selection.h"
@@ -116,13 +115,8 @@ void TestSpecialDays::longRecordIsFatalAfterTheDaysBeforeIt()
     environment.addBundleFile(u"SpecialDays.txt"_s, "[SPECIALDAYS]\nAM^Lady Day^ok\r\nPM^Lady Day^x^y\nAM^Whitsun^never\n");
     {
         SpecialDaysTableViewController controller;
-        try {
-            controller.viewDidLoad();
-            QFAIL("expected a fatal stop");
-        } catch (const FatalErrorException &error) {
-            QCOMPARE(error.message(),
-                     u"Fatal error: SpecialDays.txt line 3 has 4 fields where a special day has at most 3: “PM^Lady Day^x^y”"_s);
-        }
+        QCOMPARE(fatalStop([&] { controller.viewDidLoad(); }),
+                 u"Fatal error: SpecialDays.txt line 3 has 4 fields where a special day has at most 3: “PM^Lady Day^x^y”"_s);
     }
     // The next visit keeps what the stopped seeding stored.
     environment.logLines.clear();

@@ -1,4 +1,3 @@
-#include "FatalError.h"
 #include "PreferenceKeys.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
@@ -79,17 +78,14 @@ void TestUserDefaults::wrongTypeIsFatal()
     TestEnvironment environment;
     UserDefaults::standard().set(u"key"_s, stored);
     const PreferenceKey key{u"key"_s, UserDefaults::Type::Integer, {}};
-    QString message;
-    try {
+    const QString message = fatalStop([&] {
         if (reader == 0)
             Preferences::integerIfPresent(key);
         else if (reader == 1)
             Preferences::doubleIfPresent(key);
         else
             Preferences::stringIfPresent(key);
-    } catch (const FatalErrorException &error) {
-        message = error.message();
-    }
+    });
     QCOMPARE(!message.isEmpty(), fatal);
     if (fatal)
         QVERIFY2(message.startsWith(u"Fatal error: the setting \"key\" holds a value that is not "_s), qPrintable(message));

@@ -1,5 +1,4 @@
 #include "Alerts.h"
-#include "FatalError.h"
 #include "PageRows.h"
 #include "Selection.h"
 #include "Sharing.h"
@@ -117,13 +116,9 @@ void TestReader::appearanceFromPreferences()
         UserDefaults::standard().set(it.key(), it.value());
     select(u"AM"_s, u"May 1"_s, u"Body"_s);
     ViewController controller;
-    try {
-        controller.viewDidLoad();
-    } catch (const FatalErrorException &stop) {
-        QCOMPARE(stop.message(), fatal);
+    QCOMPARE(fatalStop([&] { controller.viewDidLoad(); }), fatal);
+    if (!fatal.isEmpty())
         return;
-    }
-    QVERIFY(fatal.isEmpty());
     QCOMPARE(controller.appearance()->styled(), styled);
     QCOMPARE(controller.PoemPrayerText().isEmpty(), !styled);
     if (styled) {

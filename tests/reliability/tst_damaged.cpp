@@ -101,12 +101,7 @@ void TestDamaged::damagedStoreStopsAndIsKept()
     const QDateTime modified = QFileInfo(path).lastModified();
     QTest::qSleep(20); // a write would show in the modification time
 
-    QString message;
-    try {
-        AppDelegate::shared().viewContext();
-    } catch (const FatalErrorException &error) {
-        message = error.message();
-    }
+    const QString message = fatalStop([] { AppDelegate::shared().viewContext(); });
     QVERIFY2(message.startsWith(reason), qPrintable(message));
     QVERIFY2(message.contains(u", {"_s) && message.contains(path), qPrintable(message));
     QCOMPARE(contentsOf(path), bytes);

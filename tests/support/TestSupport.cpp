@@ -58,6 +58,16 @@ QString TestEnvironment::sourceResources()
     return QStringLiteral(LARKWELLS_RESOURCES_DIR);
 }
 
+QString fatalStop(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const FatalErrorException &stop) {
+        return stop.message();
+    }
+    return {};
+}
+
 QQuickItem *findItem(QQuickItem *root, const QString &objectName)
 {
     if (!root)

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
 // A throw-away data folder for one test: its own preferences and store, log lines collected,
 // fatal stops thrown as FatalErrorException. Optionally a bundle folder of the test's own.
 class TestEnvironment
@@ -23,6 +25,9 @@ private:
     QTemporaryDir m_data;
     QTemporaryDir m_bundle;
 };
+
+// The message of the fatal stop that `action` ends in; empty when it ends normally.
+QString fatalStop(const std::function<void()> &action);
 
 // Makes the Larkwells QML module available to engines in the test.
 void importLarkwellsModule();
