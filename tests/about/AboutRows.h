@@ -1,31 +1,17 @@
 #pragma once
 
-#include "AppDelegate.h"
-#include "Entities.h"
+#include "PageRows.h"
 
 #include <QStringList>
 
 // About articles as "name|text", "-" for a value never set.
 inline void insertAbouts(const QStringList &rows)
 {
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    for (const QString &row : rows) {
-        About *article = context.insertNewObject<About>();
-        const QStringList fields = row.split(u'|');
-        if (fields[0] != u"-")
-            article->setName(fields[0]);
-        if (fields[1] != u"-")
-            article->setAboutText(fields[1]);
-    }
-    context.save();
+    insertRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")}, rows);
 }
 
 // The stored articles in insertion order, read through a fresh connection.
 inline QStringList storedAbouts()
 {
-    const auto container = loadedContainer();
-    QStringList rows;
-    for (About *article : container->viewContext().fetch<About>(About::fetchRequest()))
-        rows.append(article->name().value_or(QStringLiteral("-")) + u'|' + article->aboutText().value_or(QStringLiteral("-")));
-    return rows;
+    return storedRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")});
 }

@@ -1,7 +1,7 @@
 #include "AboutImportUndo.h"
 #include "AboutImportViewController.h"
+#include "AboutRows.h"
 #include "Alerts.h"
-#include "AppDelegate.h"
 #include "FatalError.h"
 #include "TestSupport.h"
 
@@ -11,25 +11,12 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// The articles in the store as "name|text", "-" for absent, in name order.
+// The stored articles as "name|text", "-" for absent, in name order.
 QStringList storedArticles()
 {
-    const auto container = loadedContainer();
-    FetchRequest request = About::fetchRequest();
-    request.sortDescriptors = {SortDescriptor{u"name"_s, true}, SortDescriptor{u"aboutText"_s, true}};
-    QStringList rows;
-    for (About *article : container->viewContext().fetch<About>(request))
-        rows.append(article->name().value_or(u"-"_s) + u'|' + article->aboutText().value_or(u"-"_s));
+    QStringList rows = storedAbouts();
+    rows.sort();
     return rows;
-}
-
-void storeArticle(const QString &name, const QString &text)
-{
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    About *article = context.insertNewObject<About>();
-    article->setName(name);
-    article->setAboutText(text);
-    context.save();
 }
 
 QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes)
@@ -87,7 +74,7 @@ void TestAboutImport::import()
     QFETCH(QStringList, alerts);
     QFETCH(bool, fatal);
     TestEnvironment environment;
-    storeArticle(u"Old"_s, u"Written before"_s);
+    insertAbouts({u"Old|Written before"_s});
     QTemporaryDir folder;
     AboutImportViewController controller;
     QVERIFY(!controller.ImportButtonEnabled());
@@ -110,9 +97,7 @@ void TestAboutImport::import()
         messages.append(alert[1].toString());
     }
     QCOMPARE(messages, alerts);
-    // Each "OK" leads back to the about list.
-    while (Alerts::shared().showing())
-        Alerts::shared().dismiss(0);
+    dismissAlerts(); // each "OK" leads back to the about list
     QCOMPARE(environment.logLines.count(u"Back button Clicked"_s), alerts.size());
 }
 
@@ -131,8 +116,7 @@ void TestAboutImport::unreadableFileChangesNothing()
 void TestAboutImport::undoPutsBackTheArticles()
 {
     TestEnvironment environment;
-    storeArticle(u"Introduction"_s, u"As the reader wrote it"_s);
-    storeArticle(u"Thanks"_s, u"To the family"_s);
+    insertAbouts({u"Introduction|As the reader wrote it"_s, u"Thanks|To the family"_s});
     const QStringList before = storedArticles();
     AboutImportUndo::shared().reset();
     QTemporaryDir folder;
@@ -141,8 +125,7 @@ void TestAboutImport::undoPutsBackTheArticles()
     QSignalSpy undone(&AboutImportUndo::shared(), &AboutImportUndo::undone);
     QVERIFY(!AboutImportUndo::shared().available());
     controller.ImportButtonClicked();
-    while (Alerts::shared().showing())
-        Alerts::shared().dismiss(0);
+    dismissAlerts();
     QCOMPARE(storedArticles(), QStringList());
     QVERIFY(AboutImportUndo::shared().available());
 

@@ -35,32 +35,17 @@ class TestAboutPages : public QObject
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
     void readResizeEditSaveAndWriteNew();
-
-private:
-    QQuickWindow *openAboutList(QQmlApplicationEngine &engine);
 };
-
-QQuickWindow *TestAboutPages::openAboutList(QQmlApplicationEngine &engine)
-{
-    QQuickWindow *window = loadMainWindow(engine);
-    if (!window)
-        return nullptr;
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"AboutButton"_s));
-    return window;
-}
 
 void TestAboutPages::readResizeEditSaveAndWriteNew()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     UserDefaults::standard().set(u"AboutHasBeenLaunchedBeforeFlag"_s, true);
     UserDefaults::standard().set(u"useWallpaper"_s, 1);
     insertAbouts({u"Good Night Preface|Rest now."_s, u"Good Morning Authors|We wrote it."_s});
     QQmlApplicationEngine engine;
-    QQuickWindow *window = openAboutList(engine);
+    QQuickWindow *window = openFromCover(engine, u"AboutButton"_s, u"AboutTableView"_s);
     QVERIFY(window);
-    QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
     QVERIFY(waitForItem(window, u"row-1"_s));
     QCOMPARE(rowNames(window), (QStringList{u"Good Morning Authors"_s, u"Good Night Preface"_s}));
 

@@ -71,12 +71,6 @@ void buildEditAndMail(const QString &screen, const QString &edited)
     controller->WriteTextFile();
     QCOMPARE(controller->ExportTextView(), edited); // read back from the written file
 }
-
-void dismissAlerts()
-{
-    while (Alerts::shared().showing())
-        Alerts::shared().dismiss(0);
-}
 }
 
 // The page and special-day export screens, and the mail and save paths of all three files.

@@ -1,8 +1,8 @@
 #include "AboutImportUndo.h"
+#include "AboutRows.h"
 #include "Alerts.h"
 #include "PageRows.h"
 #include "TestSupport.h"
-#include "UserDefaults.h"
 
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
@@ -11,17 +11,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-QStringList articleNames()
-{
-    const auto container = loadedContainer();
-    QStringList names;
-    for (About *article : container->viewContext().fetch<About>(About::fetchRequest()))
-        names.append(article->name().value_or(u"-"_s));
-    return names;
-}
-}
 
 // The cover's Update Files menu in the real window: a page file made, then an about file picked
 // through the file dialog, imported, and undone.
@@ -37,13 +26,8 @@ private Q_SLOTS:
 void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     insertPages({u"January 1|AM|1|1|1|F|Snow"_s});
-    {
-        ManagedObjectContext &context = AppDelegate::shared().viewContext();
-        context.insertNewObject<About>()->setName(u"Before"_s);
-        context.save();
-    }
+    insertAbouts({u"Before|-"_s});
     QTemporaryDir folder;
     const QString picked = folder.filePath(u"About.txt"_s);
     QFile file(picked);
@@ -52,12 +36,8 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     file.close();
 
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
     QVERIFY(window);
-
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"ResetButton"_s));
-    QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
     click(window, waitForItem(window, u"PoemPrayerButton"_s));
     QTRY_COMPARE(topPage(window), u"ExportView"_s);
     QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
@@ -97,7 +77,7 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
                  u"[ABOUT]\nImported^From the file\n"_s);
 
     click(window, waitForItem(window, u"ImportButton"_s));
-    QCOMPARE(articleNames(), QStringList{u"Imported"_s});
+    QCOMPARE(storedAbouts(), QStringList{u"Imported|From the file"_s});
     QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
     Alerts::shared().dismiss(0);
     QVERIFY(environment.logLines.contains(u"Back button Clicked"_s));
@@ -112,7 +92,7 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     QObject *alertDialog = window->findChild<QObject *>(u"alertDialog"_s);
     QTRY_VERIFY(!alertDialog->property("visible").toBool()); // its modal shade would take the click
     click(window, undo);
-    QCOMPARE(articleNames(), QStringList{u"Before"_s});
+    QCOMPARE(storedAbouts(), QStringList{u"Before|-"_s});
     QVERIFY(!undo->isVisible());
 }
 

@@ -1,10 +1,8 @@
 #include "AppDelegate.h"
 #include "Entities.h"
-#include "FatalError.h"
 #include "TestSupport.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -46,7 +44,6 @@ private Q_SLOTS:
     void saveWritesOneTransactionAndSchema();
     void unsetValuesReadAsAbsentOrZero();
     void saveContextOnlyWhenChanged();
-    void unopenableStoreIsFatal();
     void olderStoreIsUpgradedWithItsRows();
 };
 
@@ -191,22 +188,6 @@ void TestStore::saveContextOnlyWhenChanged()
     delegate.applicationWillTerminate();
     QVERIFY(!context.hasChanges());
     QCOMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 1);
-}
-
-void TestStore::unopenableStoreIsFatal()
-{
-    TestEnvironment environment;
-    QFile garbage(QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s));
-    QVERIFY(garbage.open(QIODevice::WriteOnly));
-    garbage.write(QByteArray(4096, 'x'));
-    garbage.close();
-    try {
-        AppDelegate::shared().viewContext();
-        QFAIL("a store that cannot be opened must stop the application");
-    } catch (const FatalErrorException &error) {
-        QVERIFY2(error.message().startsWith(u"Unresolved error "_s), qPrintable(error.message()));
-        QVERIFY2(error.message().contains(u", {"_s), qPrintable(error.message()));
-    }
 }
 
 // A store written by the first version (no lookup indexes) opens in this one, rows intact.

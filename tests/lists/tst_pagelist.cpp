@@ -1,5 +1,4 @@
 #include "Clock.h"
-#include "FatalError.h"
 #include "MainTableViewController.h"
 #include "Navigator.h"
 #include "PageRows.h"
@@ -163,21 +162,19 @@ void TestPageList::faultsAreFatal()
     QFETCH(QString, page);
     QFETCH(QString, listFont);
     QFETCH(bool, choose);
+    QFETCH(QString, message);
     TestEnvironment environment;
     insertPages({page});
     UserDefaults::standard().set(u"ListFontName"_s, listFont);
     Selection::shared().setSelectedList(u"FAV"_s);
     MainTableViewController controller;
-    try {
-        controller.viewDidLoad();
-        rowsOf(*controller.PoemList());
-        if (choose)
-            controller.didSelectRowAt(0);
-        QFAIL("expected a fatal stop");
-    } catch (const FatalErrorException &stop) {
-        QFETCH(QString, message);
-        QCOMPARE(stop.message(), message);
-    }
+    QCOMPARE(fatalStop([&] {
+                 controller.viewDidLoad();
+                 rowsOf(*controller.PoemList());
+                 if (choose)
+                     controller.didSelectRowAt(0);
+             }),
+             message);
 }
 
 QTEST_MAIN(TestPageList)

@@ -46,8 +46,7 @@ private:
 void TestSharing::cleanup()
 {
     Sharing::shared().cancel();
-    while (Alerts::shared().showing())
-        Alerts::shared().dismiss(0);
+    dismissAlerts();
     Sharing::shared().setCanSendTextForTesting(std::nullopt);
     Sharing::shared().setCanSendMailForTesting(std::nullopt);
 }

@@ -1,4 +1,3 @@
-#include "FatalError.h"
 #include "PreferenceKeys.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
@@ -20,7 +19,6 @@ private Q_SLOTS:
     void valuesKeepTheirTypeAcrossRestart();
     void wrongTypeIsFatal_data();
     void wrongTypeIsFatal();
-    void damagedFileIsKeptAside();
 };
 
 void TestUserDefaults::valuesKeepTheirTypeAcrossRestart_data()
@@ -80,36 +78,18 @@ void TestUserDefaults::wrongTypeIsFatal()
     TestEnvironment environment;
     UserDefaults::standard().set(u"key"_s, stored);
     const PreferenceKey key{u"key"_s, UserDefaults::Type::Integer, {}};
-    QString message;
-    try {
+    const QString message = fatalStop([&] {
         if (reader == 0)
             Preferences::integerIfPresent(key);
         else if (reader == 1)
             Preferences::doubleIfPresent(key);
         else
             Preferences::stringIfPresent(key);
-    } catch (const FatalErrorException &error) {
-        message = error.message();
-    }
+    });
     QCOMPARE(!message.isEmpty(), fatal);
     if (fatal)
         QVERIFY2(message.startsWith(u"Fatal error: the setting \"key\" holds a value that is not "_s), qPrintable(message));
     QVERIFY(!Preferences::integerIfPresent(PreferenceKey{u"absent"_s, UserDefaults::Type::Integer, {}}));
-}
-
-void TestUserDefaults::damagedFileIsKeptAside()
-{
-    TestEnvironment environment;
-    const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("{ not json");
-    file.close();
-    UserDefaults::setStandardDirectory(environment.dataDirectory());
-    QVERIFY(!UserDefaults::standard().contains(u"anything"_s));
-    QVERIFY(QFile::exists(path + u".damaged"_s));
-    UserDefaults::standard().set(u"x"_s, 1);
-    QCOMPARE(UserDefaults(path).integerForKey(u"x"_s), 1);
 }
 
 QTEST_GUILESS_MAIN(TestUserDefaults)

@@ -1,14 +1,12 @@
 #include "Alerts.h"
 #include "PageRows.h"
 #include "TestSupport.h"
-#include "UserDefaults.h"
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickTextDocument>
 #include <QQuickWindow>
 #include <QTest>
-#include <QTextBlock>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -27,17 +25,12 @@ private Q_SLOTS:
 void TestJourney::coverListReaderAndBack()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-    insertPages({u"January 1|AM|1|1|1|F|Snow on the sill@#@and bread on the table"_s.replace(u"@#@"_s, u"\n"_s),
+    insertPages({u"January 1|AM|1|1|1|F|Snow on the sill\nand bread on the table"_s,
                  u"January 1|PM|1|1|2|F|Night one"_s, u"January 2|AM|1|2|3|F|Second morning"_s});
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
     QVERIFY(window);
     QVERIFY(!Alerts::shared().showing());
-
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"GoodMorningButton"_s));
-    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QQuickItem *firstRow = waitForItem(window, u"row-0"_s);
     QVERIFY(firstRow);
     QCOMPARE(firstRow->property("dateText").toString(), u"January 1"_s);
@@ -65,18 +58,13 @@ void TestJourney::coverListReaderAndBack()
 void TestJourney::searchReadAndBack()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     // The match stands far below the first screen of its page.
     const QString longPage = u"A line of the morning\n"_s.repeated(80) + u"The lantern glows"_s;
     insertPages({u"January 1|AM|1|1|1|F|Snow on the sill"_s, u"January 1|PM|1|1|2|F|Night of lanterns"_s,
                  u"February 10|AM|2|10|41|F|"_s + longPage});
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"SearchButton"_s, u"SearchTableView"_s);
     QVERIFY(window);
-
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"SearchButton"_s));
-    QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
     QQuickItem *field = waitForItem(window, u"searchField"_s);
     QTRY_VERIFY(field->hasActiveFocus());
     click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
@@ -92,14 +80,7 @@ void TestJourney::searchReadAndBack()
     QTRY_COMPARE(topPage(window), u"SearchView"_s);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
     const QTextDocument *document = text->property("textDocument").value<QQuickTextDocument *>()->textDocument();
-    QStringList marked;
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            if (it.fragment().charFormat().background().color() == QColor(Qt::yellow))
-                marked.append(it.fragment().text());
-        }
-    }
-    QCOMPARE(marked, QStringList{u"lantern"_s});
+    QCOMPARE(markedFragments(*document), QStringList{u"lantern"_s});
     QVERIFY(document->toPlainText().endsWith(u"February 10\n\n"_s + longPage));
     QTRY_VERIFY(findVisibleItem(window->contentItem(), u"scroller"_s)->property("contentY").toDouble() > 500);
 

@@ -1,4 +1,3 @@
-#include "Alerts.h"
 #include "PageRows.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
@@ -46,17 +45,13 @@ private Q_SLOTS:
 void TestKeyboard::keyboardAlone()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     QStringList pages;
     for (int i = 0; i < 60; ++i)
         pages << u"Day %1|AM|%2|%3|%4|F|Morning %4"_s.arg(i).arg(1 + i / 28).arg(1 + i % 28).arg(2 * i + 1);
     insertPages(pages);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
     QVERIFY(window);
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"GoodMorningButton"_s));
-    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
 
     auto *table = findVisibleItem(window->contentItem(), u"table"_s);
     QVERIFY(tabUntil(window, [&](QQuickItem *item) { return table->isAncestorOf(item); }));
@@ -72,9 +67,8 @@ void TestKeyboard::keyboardAlone()
 
     QTest::keyClick(window, Qt::Key_Return);
     QTRY_COMPARE(topPage(window), u"View"_s);
-    QCOMPARE(waitForItem(window, u"PoemPrayerTextView"_s)->property("text").toString().contains(u"Morning 81"_s), true);
-
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QVERIFY(text->property("text").toString().contains(u"Morning 81"_s));
     QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
     QTest::keyClick(window, Qt::Key_Tab);
     QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
@@ -119,15 +113,12 @@ void TestKeyboard::keyboardAlone()
 void TestKeyboard::largeListFontFitsTheRows()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
     insertPages({u"September 30|AM|9|30|547|F|Morning"_s});
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
     QVERIFY(window);
     window->resize(360, 640);
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"GoodMorningButton"_s));
     QQuickItem *row = waitForItem(window, u"row-0"_s);
     QVERIFY(row);
     QTRY_COMPARE(row->width(), findVisibleItem(window->contentItem(), u"table"_s)->width());

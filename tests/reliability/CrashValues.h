@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Entities.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -34,5 +36,18 @@ inline QDateTime date(qint64 n)
     return QDateTime(QDate(2020, 1, 1), QTime(0, 0), Qt::UTC).addSecs(n % 100000000);
 }
 inline QString pageDt(int k) { return QStringLiteral("d%1").arg(k); }
+
+// Note number n, every field derived from n.
+inline void fillNote(Notes *note, qint64 n)
+{
+    note->setSubject(subject(n));
+    note->setNotes(text(n));
+    note->setYear(year(n));
+    note->setMonth(month(n));
+    note->setDay(day(n));
+    note->setAmpm(ampm(n));
+    note->setDt(date(n));
+    note->setDtstring(QStringLiteral("D%1").arg(n));
+}
 
 }

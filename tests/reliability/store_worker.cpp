@@ -55,18 +55,6 @@ void saveOrDie()
     }
 }
 
-void fillNote(Notes *note, qint64 n)
-{
-    note->setSubject(subject(n));
-    note->setNotes(text(n));
-    note->setYear(year(n));
-    note->setMonth(month(n));
-    note->setDay(day(n));
-    note->setAmpm(ampm(n));
-    note->setDt(date(n));
-    note->setDtstring(u"D%1"_s.arg(n));
-}
-
 class RandomWorker
 {
 public:

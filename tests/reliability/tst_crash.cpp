@@ -352,15 +352,7 @@ void TestCrash::fullDiskFailsTheSaveAndKeepsEarlierData()
     Expected expected;
     expected.apply(u"begin note+ 7"_s);
     expected.apply(u"begin pref FontName Before"_s);
-    Notes *note = AppDelegate::shared().viewContext().insertNewObject<Notes>();
-    note->setSubject(subject(7));
-    note->setNotes(text(7));
-    note->setYear(year(7));
-    note->setMonth(month(7));
-    note->setDay(day(7));
-    note->setAmpm(ampm(7));
-    note->setDt(date(7));
-    note->setDtstring(u"D7"_s);
+    fillNote(AppDelegate::shared().viewContext().insertNewObject<Notes>(), 7);
     QVERIFY(!AppDelegate::shared().viewContext().save());
     Preferences::write(PreferenceKeys::FontName, u"Before"_s);
     AppDelegate::shared().reset();

@@ -2,6 +2,7 @@
 // through the bundle, light enough to read over, distinct, within budget; the cover and icon.
 #include "TestSupport.h"
 
+#include "Art.h"
 #include "Bundle.h"
 #include "Wallpapers.h"
 
@@ -63,17 +64,6 @@ QImage renderFilled(const QString &path, QSize size)
     return out;
 }
 
-double channel(int c)
-{
-    const double v = c / 255.0;
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
-
-double luminance(QRgb rgb)
-{
-    return 0.2126 * channel(qRed(rgb)) + 0.7152 * channel(qGreen(rgb)) + 0.0722 * channel(qBlue(rgb));
-}
-
 double brightShare(const QImage &image)
 {
     const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
@@ -81,7 +71,7 @@ double brightShare(const QImage &image)
     for (int y = 0; y < rgb.height(); ++y) {
         const QRgb *line = reinterpret_cast<const QRgb *>(rgb.constScanLine(y));
         for (int x = 0; x < rgb.width(); ++x)
-            bright += luminance(line[x]) >= brightLuminance;
+            bright += Art::luminance(line[x]) >= brightLuminance;
     }
     return double(bright) / (qint64(rgb.width()) * rgb.height());
 }

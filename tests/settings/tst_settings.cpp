@@ -74,8 +74,6 @@ class TestSettings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sizesBeforeAndAfterTheFirstVisit_data();
-    void sizesBeforeAndAfterTheFirstVisit();
     void firstVisitWritesOnlyWhatIsMissing_data();
     void firstVisitWritesOnlyWhatIsMissing();
     void colorSegment_data();
@@ -91,31 +89,6 @@ private Q_SLOTS:
     void settingsRows_data();
     void settingsRows();
 };
-
-void TestSettings::sizesBeforeAndAfterTheFirstVisit_data()
-{
-    QTest::addColumn<bool>("visited");
-    QTest::addColumn<double>("size"); // what the page reader and the lists show
-    QTest::newRow("fresh install") << false << 15.0;
-    QTest::newRow("after the first visit") << true << 17.0;
-}
-
-void TestSettings::sizesBeforeAndAfterTheFirstVisit()
-{
-    QFETCH(bool, visited);
-    QFETCH(double, size);
-    TestEnvironment environment;
-    if (visited)
-        DefaultsViewController().viewDidLoad();
-    Selection::shared().setSelectedAmpm(u"AM"_s);
-    ViewController reader;
-    reader.viewDidLoad();
-    ListAppearance list;
-    list.read();
-    QCOMPARE(reader.appearance()->fontSize(), size);
-    QCOMPARE(list.ListFontSize(), size);
-    QCOMPARE(reader.appearance()->FontName() + list.ListFontName(), u"ArialArial"_s);
-}
 
 void TestSettings::firstVisitWritesOnlyWhatIsMissing_data()
 {

@@ -21,26 +21,6 @@ QString text(QQuickWindow *window, const QString &name)
     QQuickItem *item = waitForItem(window, name);
     return item ? item->property("text").toString() : u"(missing)"_s;
 }
-
-// The whole app in a window, opened on the cover after its first launch.
-struct App {
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = nullptr;
-    App()
-    {
-        UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-        window = loadMainWindow(engine);
-    }
-    // Opens a screen from the cover's menu.
-    void open(const QString &menuButton, const QString &page)
-    {
-        QVERIFY(window);
-        click(window, waitForItem(window, u"ControlButton"_s));
-        click(window, waitForItem(window, menuButton));
-        QTRY_COMPARE(topPage(window), page);
-    }
-};
-
 }
 
 class TestSettingsPages : public QObject
@@ -57,9 +37,9 @@ private Q_SLOTS:
 void TestSettingsPages::defaultsReachTheNextReader()
 {
     TestEnvironment environment;
-    App app;
-    app.open(u"UserDefaultsButton"_s, u"DefaultsView"_s);
-    QQuickWindow *window = app.window;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"UserDefaultsButton"_s, u"DefaultsView"_s);
+    QVERIFY(window);
     QCOMPARE(text(window, u"ReaderFontSizeTextField"_s), u"17"_s);
     QCOMPARE(text(window, u"FontListTextField"_s), u"Arial"_s);
 
@@ -114,10 +94,9 @@ void TestSettingsPages::wallpaperRowsToggleByTouchAndKeyboard()
     TestEnvironment environment;
     for (const QString &name : Wallpapers::PMWallpaper())
         UserDefaults::standard().set(name, u"false"_s);
-    App app;
-    app.open(u"UserDefaultsButton"_s, u"DefaultsView"_s);
-    QQuickWindow *window = app.window;
-
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"UserDefaultsButton"_s, u"DefaultsView"_s);
+    QVERIFY(window);
     click(window, waitForItem(window, u"AvailableWallpaperButton"_s));
     QTRY_COMPARE(topPage(window), u"ViewerWallpaperTableView"_s);
     QVERIFY(!findVisibleItem(window->contentItem(), u"NoneInUseLabel"_s));
@@ -147,9 +126,9 @@ void TestSettingsPages::settingsRowsActInTheWindow()
 {
     TestEnvironment environment;
     Mail::shared().setCanSendMailForTesting(false);
-    App app;
-    app.open(u"RateShareButton"_s, u"SettingsView"_s);
-    QQuickWindow *window = app.window;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"RateShareButton"_s, u"SettingsView"_s);
+    QVERIFY(window);
     QCOMPARE(text(window, u"row-2"_s), u"Share The Web Site"_s);
 
     click(window, waitForItem(window, u"row-4"_s));

@@ -3,37 +3,54 @@
 #include "AppDelegate.h"
 #include "Entities.h"
 
-// Pages written straight into the test's store: "dt|ampm|month|day|pagenum|favorite|text",
-// with "-" for a value left unset.
-inline void insertPages(const QStringList &rows)
+// Rows written straight into the test's store: each row its `columns` joined by "|", with "-"
+// for a value left unset.
+template <typename T>
+QList<T *> insertRows(const QStringList &columns, const QStringList &rows)
 {
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const QStringList columns{QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
-                              QStringLiteral("pagenum"), QStringLiteral("favorite"), QStringLiteral("poemprayer")};
+    QList<T *> inserted;
     for (const QString &row : rows) {
-        PoemPrayer *page = context.insertNewObject<PoemPrayer>();
+        T *object = context.insertNewObject<T>();
         const QStringList fields = row.split(u'|');
         for (qsizetype i = 0; i < fields.size(); ++i) {
             if (fields[i] != u"-")
-                page->setValueForKey(columns[i], fields[i]);
+                object->setValueForKey(columns[i], fields[i]);
         }
+        inserted.append(object);
     }
     context.save();
+    return inserted;
 }
 
-// Special days written straight into the test's store: "ampm|dayname|poemprayer", with "-" for
-// a value left unset.
-inline void insertSpecialDays(const QStringList &rows)
+// What a fresh open of the store holds, as after a restart: each T as its `columns` joined by
+// "|", with "-" for a value never set.
+template <typename T>
+QStringList storedRows(const QStringList &columns)
 {
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const QStringList columns{QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")};
-    for (const QString &row : rows) {
-        SpecialDay *day = context.insertNewObject<SpecialDay>();
-        const QStringList fields = row.split(u'|');
-        for (qsizetype i = 0; i < fields.size(); ++i) {
-            if (fields[i] != u"-")
-                day->setValueForKey(columns[i], fields[i]);
+    const auto container = loadedContainer();
+    QStringList rows;
+    for (const T *object : container->viewContext().template fetch<T>(T::fetchRequest())) {
+        QStringList fields;
+        for (const QString &column : columns) {
+            const QVariant value = object->valueForKey(column);
+            fields.append(value.isValid() ? value.toString() : QStringLiteral("-"));
         }
+        rows.append(fields.join(u'|'));
     }
-    context.save();
+    return rows;
+}
+
+// Pages: "dt|ampm|month|day|pagenum|favorite|text".
+inline void insertPages(const QStringList &rows)
+{
+    insertRows<PoemPrayer>({QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
+                            QStringLiteral("pagenum"), QStringLiteral("favorite"), QStringLiteral("poemprayer")},
+                           rows);
+}
+
+// Special days: "ampm|dayname|poemprayer".
+inline QList<SpecialDay *> insertSpecialDays(const QStringList &rows)
+{
+    return insertRows<SpecialDay>({QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")}, rows);
 }

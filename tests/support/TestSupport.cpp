@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include "Alerts.h"
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "Clock.h"
@@ -17,6 +18,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
 
 Q_IMPORT_QML_PLUGIN(LarkwellsPlugin)
 
@@ -55,6 +58,16 @@ void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes
 QString TestEnvironment::sourceResources()
 {
     return QStringLiteral(LARKWELLS_RESOURCES_DIR);
+}
+
+QString fatalStop(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const FatalErrorException &stop) {
+        return stop.message();
+    }
+    return {};
 }
 
 QQuickItem *findItem(QQuickItem *root, const QString &objectName)
@@ -129,4 +142,37 @@ QQuickWindow *loadMainWindow(QQmlApplicationEngine &engine)
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkwells/app/Main.qml")));
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
+}
+
+QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page)
+{
+    UserDefaults::standard().set(QStringLiteral("hasBeenLaunchedBeforeFlag"), true);
+    QQuickWindow *window = loadMainWindow(engine);
+    if (!window)
+        return nullptr;
+    for (const QString &button : {QStringLiteral("ControlButton"), menuButton}) {
+        QQuickItem *item = waitForItem(window, button);
+        if (!item)
+            return nullptr;
+        click(window, item);
+    }
+    return QTest::qWaitFor([&] { return topPage(window) == page; }) ? window : nullptr;
+}
+
+void dismissAlerts()
+{
+    while (Alerts::shared().showing())
+        Alerts::shared().dismiss(0);
+}
+
+QStringList markedFragments(const QTextDocument &document)
+{
+    QStringList marked;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (it.fragment().charFormat().background().color() == QColor(Qt::yellow))
+                marked.append(it.fragment().text());
+        }
+    }
+    return marked;
 }

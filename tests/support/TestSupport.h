@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
 // A throw-away data folder for one test: its own preferences and store, log lines collected,
 // fatal stops thrown as FatalErrorException. Optionally a bundle folder of the test's own.
 class TestEnvironment
@@ -23,6 +25,9 @@ private:
     QTemporaryDir m_data;
     QTemporaryDir m_bundle;
 };
+
+// The message of the fatal stop that `action` ends in; empty when it ends normally.
+QString fatalStop(const std::function<void()> &action);
 
 // Makes the Larkwells QML module available to engines in the test.
 void importLarkwellsModule();
@@ -46,3 +51,13 @@ void click(QQuickWindow *window, QQuickItem *item);
 QQuickItem *currentScreen(QQuickWindow *window);
 // The object name of the screen on top, once the stack has stopped moving; empty while it moves.
 QString topPage(QQuickWindow *window);
+// The application's window past its first launch, with `page` opened from the cover's menu
+// button `menuButton`; null when any step fails.
+QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page);
+
+// Answers every alert showing, the first button each time.
+void dismissAlerts();
+
+class QTextDocument;
+// The pieces of the document's text set on a yellow background (the marked matches).
+QStringList markedFragments(const QTextDocument &document);
