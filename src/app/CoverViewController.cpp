@@ -27,10 +27,11 @@ QUrl CoverViewController::img() const
 void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
 {
     m_coverPath = CoverCache::path(pixelSize, scale);
-    if (pixelSize.isEmpty() || QFile::exists(m_coverPath))
-        return;
     const QUrl vector = img();
     const QString file = vector.scheme() == u"qrc"_s ? u':' + vector.path() : vector.toLocalFile();
+    // without a cover in the bundle there is nothing to draw ahead
+    if (pixelSize.isEmpty() || file.isEmpty() || QFile::exists(m_coverPath))
+        return;
     m_coverDrawn = std::async(std::launch::async, CoverCache::draw, file, m_coverPath, pixelSize);
 }
 

@@ -5,7 +5,8 @@ import Larkwells
 
 // A reader's Read Aloud: "Read Aloud" starts the shown text, then "Pause" / "Resume", and a
 // "Stop" beside it while the voice is busy. Hidden where no voice is available. On a phone the
-// bar keeps its room for the title, so the buttons are drawn as small signs.
+// bar keeps its room for the title, so the buttons are drawn as small signs. "Stop" opens on the
+// left, so the button just pressed stays under the finger.
 RowLayout {
     id: control
     required property ReadAloud readAloud
@@ -30,6 +31,23 @@ RowLayout {
     }
 
     BarButton {
+        objectName: "StopReadingButton"
+        visible: control.busy
+        text: control.compact ? "" : qsTr("Stop")
+        Accessible.name: qsTr("Stop Reading")
+        onClicked: control.readAloud.stop()
+        implicitWidth: control.compact ? 40 : implicitContentWidth + leftPadding + rightPadding
+        implicitHeight: Theme.touchTarget
+        Rectangle {
+            anchors.centerIn: parent
+            visible: control.compact
+            width: 14
+            height: 14
+            radius: 2
+            color: Theme.tint
+        }
+    }
+    BarButton {
         id: playButton
         objectName: "ReadAloudButton"
         readonly property string label: control.readAloud.speaking ? qsTr("Pause")
@@ -37,6 +55,7 @@ RowLayout {
         text: control.compact ? "" : label
         Accessible.name: label
         implicitWidth: control.compact ? 40 : implicitContentWidth + leftPadding + rightPadding
+        implicitHeight: Theme.touchTarget
         enabled: control.surface.textView.length > 0
         onClicked: {
             if (control.readAloud.speaking)
@@ -53,21 +72,6 @@ RowLayout {
                       [Qt.point(12, 3), Qt.point(16, 3), Qt.point(16, 17), Qt.point(12, 17)]]
                    : [[Qt.point(2, 7), Qt.point(7, 7), Qt.point(13, 2), Qt.point(13, 18), Qt.point(7, 13),
                        Qt.point(2, 13)]]
-        }
-    }
-    BarButton {
-        objectName: "StopReadingButton"
-        visible: control.busy
-        text: control.compact ? "" : qsTr("Stop")
-        Accessible.name: qsTr("Stop Reading")
-        implicitWidth: control.compact ? 40 : implicitContentWidth + leftPadding + rightPadding
-        Rectangle {
-            anchors.centerIn: parent
-            visible: control.compact
-            width: 14
-            height: 14
-            radius: 2
-            color: Theme.tint
         }
     }
 }

@@ -64,12 +64,6 @@ QString pick(ExportLarkwellFilesViewController &menu, const QString &path)
     menu.documentPicker(QUrl::fromLocalFile(path));
     return Alerts::shared().message();
 }
-
-void dismissAlerts()
-{
-    while (Alerts::shared().showing())
-        Alerts::shared().dismiss(0);
-}
 }
 
 // The backup file against golden files, files that must be refused, and restores merged into

@@ -77,7 +77,7 @@ void TestReadAloud::playPauseStopLeave()
     QVERIFY(window);
     QQuickItem *button = waitForItem(window, u"ReadAloudButton"_s);
     QVERIFY(button);
-    const auto label = [button] { return button->property("text").toString(); };
+    const auto label = [button] { return button->property("label").toString(); };
     const auto stopShown = [window] { return findVisibleItem(window->contentItem(), u"StopReadingButton"_s); };
     QCOMPARE(label(), u"Read Aloud"_s);
     QVERIFY(!stopShown());
