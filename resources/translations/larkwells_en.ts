@@ -48,17 +48,6 @@
     </message>
 </context>
 <context>
-    <name>AboutImportViewController</name>
-    <message>
-        <source>No File Picker</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choosing a file needs the package qml6-module-qt-labs-folderlistmodel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AboutNewView</name>
     <message>
         <source>New Article</source>
@@ -193,6 +182,26 @@
         <source>List Wallpapers</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Night Reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read Aloud Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>EditNotesView</name>
@@ -255,6 +264,26 @@
     </message>
     <message>
         <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a Backup of Your Writing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backups (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back Up My Writing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore My Writing…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -345,6 +374,10 @@
         <source>No pages for this day.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Go to Date</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>NavigationBar</name>
@@ -392,6 +425,59 @@
     </message>
     <message>
         <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PageTurner</name>
+    <message>
+        <source>Previous Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReadAloudButton</name>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read Aloud</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReminderRows</name>
+    <message>
+        <source>%1 time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Morning Reminder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Night Reminder</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -500,6 +586,10 @@
         <source>Open With…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Share as Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Sharing</name>
@@ -567,6 +657,14 @@
         <source>The file %1 could not be written: %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No File Picker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choosing a file needs the package qml6-module-qt-labs-folderlistmodel.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>View</name>
@@ -618,6 +716,30 @@
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the first line of today&apos;s morning or night page as a desktop notification; a click on it opens the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --remind: wait for this time of day (HH:MM), every day, instead of reminding now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the reader on today&apos;s morning or night page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--at goes with --remind.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--open takes today-morning or today-night.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The book has no page for today.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
