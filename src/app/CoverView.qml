@@ -88,7 +88,8 @@ Page {
         width: wide ? Math.max(200, Math.min(320, (root.width - img.width) / 2 - 32))
                     : Math.min(root.width - 32, 320)
         contentHeight: menuButtons.height + 24
-        interactive: contentHeight > height
+        // the closed menu's buttons still take their room; only an open menu scrolls
+        interactive: controller.menuOpen && contentHeight > height
         clip: true
         // A menu taller than the screen shows that it scrolls.
         ScrollBar.vertical: ScrollBar {

@@ -3,6 +3,7 @@
 #include "AppDelegate.h"
 #include "Clock.h"
 #include "Entities.h"
+#include "MainTableViewController.h"
 #include "Navigator.h"
 #include "ReaderText.h"
 #include "Selection.h"
@@ -39,15 +40,9 @@ bool open(const QString &ampm)
     const PoemPrayer *page = fetch(ampm);
     if (!page)
         return false;
-    Selection &selection = Selection::shared();
-    selection.setSelectedPoemPrayer(page->poemprayer().value_or(QString()));
-    selection.setSelectedDt(page->dt().value_or(QString()));
-    selection.setSelectedAmpm(ampm);
-    selection.setSelectedMonth(page->month());
-    selection.setSelectedDay(page->day());
-    selection.setSelectedPagenum(page->pagenum());
-    selection.setSelectedFavorite(page->favorite() == u"T"_s ? u"T"_s : u"F"_s);
-    selection.setSelectedSearchText(QString());
+    // chosen as the page list chooses a row, so the reader behaves as it does from there
+    MainTableViewController::selectPage(*page);
+    Selection::shared().setSelectedSearchText(QString());
     Navigator::shared().performSegue(u"ViewPoemSegue"_s);
     return true;
 }

@@ -47,12 +47,14 @@ public:
     // with its new mark at once.
     Q_INVOKABLE void FavoriteCheckBoxChanged(int row, int checkState);
 
+    // The selection a chosen row sets, whether chosen here, turned to, or opened from a reminder.
+    static void selectPage(const PoemPrayer &page);
+
 Q_SIGNALS:
     void segmentIndexChanged();
 
 private:
     void fetch(); // the one place that decides which pages are shown
-    static void selectPage(const PoemPrayer &page);
 
     PoemPrayerListModel m_PoemList;
     PageSequence m_sequence;
