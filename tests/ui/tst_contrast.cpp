@@ -1,5 +1,6 @@
 #include "Appearance.h"
 #include "Art.h"
+#include "Contrast.h"
 #include "Bundle.h"
 #include "TestSupport.h"
 #include "Wallpapers.h"
@@ -18,11 +19,6 @@ namespace {
 double luminance(const QColor &color)
 {
     return Art::luminance(color.rgb());
-}
-
-double contrast(double a, double b)
-{
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 // The luminance that all but the darkest 5 % of the paper's pixels reach: dark text is read

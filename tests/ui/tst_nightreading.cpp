@@ -1,5 +1,6 @@
 #include "AboutEditViewController.h"
 #include "Bundle.h"
+#include "Contrast.h"
 #include "EditSpecialDaysViewController.h"
 #include "Navigator.h"
 #include "PreferenceKeys.h"
@@ -17,23 +18,10 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-// Relative luminance as WCAG defines it, and the contrast of two colours.
-double luminance(const QColor &color)
-{
-    const auto channel = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
-}
-double contrast(const QColor &a, const QColor &b)
-{
-    const auto [dark, light] = std::minmax(luminance(a), luminance(b));
-    return (light + 0.05) / (dark + 0.05);
-}
-
 // A morning or night page for every reader.
 void selectPage(bool nightPage)
 {
