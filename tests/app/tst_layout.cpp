@@ -1,8 +1,8 @@
 #include "Alerts.h"
-#include "AppDelegate.h"
-#include "Entities.h"
 #include "LayoutCheck.h"
+#include "MainTableViewController.h"
 #include "Navigator.h"
+#include "PageRows.h"
 #include "Selection.h"
 #include "TestSupport.h"
 
@@ -32,7 +32,6 @@ private Q_SLOTS:
     void everyScreenFits();
 
 private:
-    void dismissAlerts();
     void showScreen(const QString &screen);
     std::unique_ptr<TestEnvironment> m_environment;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
@@ -51,20 +50,14 @@ const QStringList states{u"ViewPoemSegue"_s + typing, u"SpecialDayReaderSegue"_s
 // A few notes of our own, so the notes list has rows and the editor has text.
 void insertNotes()
 {
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
     const QStringList subjects{u"Walk by the river"_s, u"A long subject line that runs well past the width of a phone"_s,
                                u"Bread"_s};
-    for (int i = 0; i < subjects.size(); ++i) {
-        Notes *note = context.insertNewObject<Notes>();
-        note->setSubject(subjects[i]);
-        note->setNotes(u"Thought of the morning page while the kettle sang.\n"_s.repeated(i * 20 + 1));
-        note->setDt(QDateTime(QDate(2026, 3, 4 + i), QTime(7, 30), Qt::UTC));
-        note->setDtstring(u"March %1, 2026"_s.arg(4 + i));
-        note->setYear(2026);
-        note->setMonth(3);
-        note->setDay(qint16(4 + i));
-    }
-    QVERIFY(!context.save());
+    QStringList rows;
+    for (int i = 0; i < subjects.size(); ++i)
+        rows << u"%1|%2|2026-03-%3T07:30:00Z|March %4, 2026|2026|3|%4"_s.arg(
+            subjects[i], u"Thought of the morning page while the kettle sang.\n"_s.repeated(i * 20 + 1))
+                    .arg(4 + i, 2, 10, QChar(u'0')).arg(4 + i);
+    insertRows<Notes>({u"subject"_s, u"notes"_s, u"dt"_s, u"dtstring"_s, u"year"_s, u"month"_s, u"day"_s}, rows);
 }
 
 // The first row of each table, chosen as its list would choose it.
@@ -76,13 +69,7 @@ void selectFirstRows()
     selection.setSelectedSearchText(u"light"_s);
     const PoemPrayer *page = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).value(0);
     QVERIFY(page);
-    selection.setSelectedPoemPrayer(page->poemprayer().value_or(QString()));
-    selection.setSelectedDt(page->dt().value_or(QString()));
-    selection.setSelectedAmpm(page->ampm().value_or(QString()));
-    selection.setSelectedMonth(page->month());
-    selection.setSelectedDay(page->day());
-    selection.setSelectedPagenum(page->pagenum());
-    selection.setSelectedFavorite(u"F"_s);
+    MainTableViewController::selectPage(*page);
     const SpecialDay *day = context.fetch<SpecialDay>(SpecialDay::fetchRequest()).value(0);
     QVERIFY(day);
     selection.setSelectedSpecialPoem(day->poemprayer().value_or(QString()));
@@ -102,12 +89,6 @@ void selectFirstRows()
     selection.setEditNoteMonth(note->month());
     selection.setEditNoteDay(note->day());
 }
-}
-
-void TestLayout::dismissAlerts()
-{
-    while (Alerts::shared().showing())
-        Alerts::shared().dismiss(0);
 }
 
 void TestLayout::initTestCase()
@@ -143,7 +124,6 @@ void TestLayout::checkerSeesFaults_data()
     QTest::addColumn<QStringList>("expected"); // the start of each fault, in order
 
     const QString button = u"Button { objectName: \"%1\"; x: %2; y: %3; width: 90; height: 40 }"_s;
-    QTest::newRow("side by side") << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(90).arg(0) << QStringList{};
     QTest::newRow("overlapping buttons") << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(60).arg(0)
                                          << QStringList{u"overlap: a [0,0 90x40] and b"_s};
     QTest::newRow("a field under a button")
@@ -156,8 +136,10 @@ void TestLayout::checkerSeesFaults_data()
     QTest::newRow("beyond what the view scrolls")
         << u"Flickable { anchors.fill: parent; contentHeight: 200; clip: true; %1 }"_s.arg(button.arg(u"low"_s).arg(0).arg(300))
         << QStringList{u"out of reach: low"_s};
-    QTest::newRow("hidden and disabled ones")
-        << button.arg(u"a"_s).arg(0).arg(0) + u"Button { visible: false } Button { enabled: false; width: 90 }"_s << QStringList{};
+    QTest::newRow("side by side, and hidden and disabled ones")
+        << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(90).arg(0)
+               + u"Button { visible: false } Button { enabled: false; width: 90 }"_s
+        << QStringList{};
     QTest::newRow("a check box in its row")
         << u"Button { width: 200; height: 60; CheckBox { anchors.centerIn: parent } }"_s << QStringList{};
     QTest::newRow("a popup over the screen")

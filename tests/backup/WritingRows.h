@@ -18,36 +18,32 @@ inline void shipSmallBook(TestEnvironment &environment)
     environment.addBundleFile(QStringLiteral("About.txt"), "[ABOUT]\nWelcome^Read a page a day.@#@Keep it.\n");
 }
 
+// Articles as "name|text".
+inline void insertArticles(const QStringList &rows)
+{
+    insertRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")}, rows);
+}
+
 inline void seedSmallBook()
 {
     insertPages({QStringLiteral("January 1|AM|1|1|1|F|Frost on the gate\nand a kettle singing"),
                  QStringLiteral("January 1|PM|1|1|2|F|The lamp is low"),
                  QStringLiteral("January 2|AM|1|2|3|F|Bread and a blue cup")});
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    About *welcome = context.insertNewObject<About>();
-    welcome->setName(QStringLiteral("Welcome"));
-    welcome->setAboutText(QStringLiteral("Read a page a day.\nKeep it."));
-    context.save();
+    insertArticles({QStringLiteral("Welcome|Read a page a day.\nKeep it.")});
 }
 
 // Notes as "subject|text|ISO date", written straight into the store.
 inline void insertNotes(const QStringList &rows)
 {
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    QStringList full;
     for (const QString &row : rows) {
-        const QStringList fields = row.split(u'|');
-        Notes *note = context.insertNewObject<Notes>();
-        note->setSubject(fields[0]);
-        note->setNotes(fields[1]);
-        const QDateTime date = QDateTime::fromString(fields[2], Qt::ISODate);
-        note->setDt(date);
-        note->setDtstring(date.date().toString(QStringLiteral("MMMM d, yyyy")));
-        note->setAmpm(date.time().hour() < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
-        note->setYear(qint16(date.date().year()));
-        note->setMonth(qint16(date.date().month()));
-        note->setDay(qint16(date.date().day()));
+        const QDateTime date = QDateTime::fromString(row.section(u'|', 2), Qt::ISODate);
+        full << row + date.toString(QStringLiteral("|MMMM d, yyyy|")) + QLatin1StringView(date.time().hour() < 12 ? "AM" : "PM")
+                    + date.toString(QStringLiteral("|yyyy|M|d"));
     }
-    context.save();
+    insertRows<Notes>({QStringLiteral("subject"), QStringLiteral("notes"), QStringLiteral("dt"), QStringLiteral("dtstring"),
+                       QStringLiteral("ampm"), QStringLiteral("year"), QStringLiteral("month"), QStringLiteral("day")},
+                      full);
 }
 
 // The store's writing in a comparable form, read through a fresh connection.

@@ -10,30 +10,19 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-QObject *visibleFileDialog(QQuickWindow *window)
+// Once the file dialog is on screen, the user chooses `file` in it and presses its button.
+bool chooseInFileDialog(QQuickWindow *window, const QString &file)
 {
-    for (QObject *object : window->findChildren<QObject *>()) {
-        if (object->inherits("QQuickFileDialogImpl") && object->property("visible").toBool())
-            return object;
-    }
-    return nullptr;
-}
-
-// The file dialog on screen, as if the user chose `file` in it and pressed its button.
-bool chooseInFileDialog(QObject *dialog, const QString &file)
-{
-    return dialog->setProperty("currentFolder", QUrl::fromLocalFile(QFileInfo(file).path()))
+    QObject *dialog = nullptr;
+    const bool shown = QTest::qWaitFor([&] {
+        for (QObject *object : window->findChildren<QObject *>()) {
+            if (object->inherits("QQuickFileDialogImpl") && object->property("visible").toBool())
+                dialog = object;
+        }
+        return dialog != nullptr;
+    });
+    return shown && dialog->setProperty("currentFolder", QUrl::fromLocalFile(QFileInfo(file).path()))
         && dialog->setProperty("selectedFile", QUrl::fromLocalFile(file)) && QMetaObject::invokeMethod(dialog, "accept");
-}
-
-void forgetSomeWriting()
-{
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    for (Notes *note : context.fetch<Notes>(Notes::fetchRequest()))
-        context.deleteObject(note);
-    for (PoemPrayer *page : context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()))
-        page->setFavorite(u"F"_s);
-    context.save();
 }
 }
 
@@ -53,7 +42,6 @@ void TestWritingWindow::backUpThenRestoreThroughTheMenu()
     TestEnvironment environment;
     shipSmallBook(environment);
     seedSmallBook();
-    Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
     Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, true);
     insertNotes({u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s, u"Evening|Quiet|2026-01-01T21:00:00Z"_s});
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
@@ -64,34 +52,31 @@ void TestWritingWindow::backUpThenRestoreThroughTheMenu()
     const QString copy = folder.filePath(u"LarkwellsWriting.json"_s);
 
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
     QVERIFY(window);
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"ResetButton"_s));
-    QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
 
     click(window, waitForItem(window, u"BackUpButton"_s));
     click(window, waitForItem(window, u"share-savecopy"_s));
-    QObject *dialog = nullptr;
-    QTRY_VERIFY((dialog = visibleFileDialog(window)));
-    QVERIFY(chooseInFileDialog(dialog, copy));
+    QVERIFY(chooseInFileDialog(window, copy));
     QTRY_VERIFY(QFileInfo::exists(copy));
 
-    forgetSomeWriting();
+    // The writing lost: the notes deleted, the favourite cleared.
+    for (Notes *note : context.fetch<Notes>(Notes::fetchRequest()))
+        context.deleteObject(note);
+    context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->setFavorite(u"F"_s);
+    context.save();
     QVERIFY(storedWriting() != written);
 
     // The closing share sheet's shade would take the click.
     QTRY_VERIFY(!window->findChild<QObject *>(u"shareSheet"_s)->property("visible").toBool());
     click(window, waitForItem(window, u"RestoreButton"_s));
-    QTRY_VERIFY((dialog = visibleFileDialog(window)));
-    QVERIFY(chooseInFileDialog(dialog, copy));
+    QVERIFY(chooseInFileDialog(window, copy));
     QTRY_COMPARE(Alerts::shared().message(), u"2 notes, 1 favourite will be restored"_s);
     click(window, waitForItem(window, u"alertButton-Restore"_s));
     QTRY_COMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
     click(window, waitForItem(window, u"alertButton-OK"_s));
     QTRY_VERIFY(!Alerts::shared().showing());
     QCOMPARE(storedWriting(), written);
-    QCOMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
 }
 
 QTEST_MAIN(TestWritingWindow)

@@ -25,10 +25,6 @@ private Q_SLOTS:
     void turnInPageList();
     void turnInSearchResults();
     void unsavedEditsKeepThePage();
-
-private:
-    QQuickWindow *openReader(QQmlApplicationEngine &engine, const QString &coverButton, const QString &segment, int row,
-                             const QString &reader);
 };
 
 namespace {
@@ -80,20 +76,18 @@ qint64 reviewCount()
 {
     return UserDefaults::standard().integerForKey(PreferenceKeys::reviewWorthyActionCount.name);
 }
-}
 
-QQuickWindow *TestPageTurn::openReader(QQmlApplicationEngine &engine, const QString &coverButton,
-                                       const QString &segment, int row, const QString &reader)
+// The page list opened from the cover, in `segment` if any, then its page at `row` in the reader.
+QQuickWindow *openReader(QQmlApplicationEngine &engine, const QString &coverButton, const QString &segment, int row)
 {
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, coverButton, u"MainTableView"_s);
     if (!window)
         return nullptr;
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, coverButton));
     if (!segment.isEmpty())
         click(window, waitForItem(window, segment));
     click(window, waitForItem(window, u"row-%1"_s.arg(row)));
-    return QTest::qWaitFor([&] { return topPage(window) == reader; }) ? window : nullptr;
+    return QTest::qWaitFor([&] { return topPage(window) == u"View"_s; }) ? window : nullptr;
+}
 }
 
 void TestPageTurn::turnInPageList_data()
@@ -136,14 +130,13 @@ void TestPageTurn::turnInPageList()
     TestEnvironment environment;
     Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(21, 0)); });
     UserDefaults &defaults = UserDefaults::standard();
-    defaults.set(u"hasBeenLaunchedBeforeFlag"_s, true);
     // A wallpaper drawn at random, so that a second draw would show.
     defaults.set(u"useWallpaper"_s, 1);
     for (int i = 1; i <= 35; ++i)
         defaults.set(u"Page%1"_s.arg(i), u"true"_s);
     insertPages(pages);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = openReader(engine, coverButton, segment, row, u"View"_s);
+    QQuickWindow *window = openReader(engine, coverButton, segment, row);
     QVERIFY(window);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
     const QUrl wallpaper = visible(window, u"img"_s)->property("source").toUrl();
@@ -181,15 +174,12 @@ void TestPageTurn::turnInPageList()
 void TestPageTurn::turnInSearchResults()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     insertPages(pages);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"SearchButton"_s, u"SearchTableView"_s);
     QVERIFY(window);
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"SearchButton"_s));
     QQuickItem *field = waitForItem(window, u"searchField"_s);
-    QTRY_VERIFY(field->hasActiveFocus());
+    QTRY_VERIFY(field->hasActiveFocus()); // the field takes the keyboard on opening
     click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
     field->forceActiveFocus();
     for (const char letter : {'l', 'a', 'n', 'e'})
@@ -201,10 +191,9 @@ void TestPageTurn::turnInSearchResults()
 
     // The second result, not the next page of the book.
     QTest::keyClick(window, Qt::Key_Right);
-    const Selection &selection = Selection::shared();
     QTRY_COMPARE(selectedPage(), u"February 3|AM|2|3|67|F"_s);
-    QCOMPARE(selection.selectedSearchText(), u"lane"_s);
-    QCOMPARE(selection.selectedPoemPrayer(),
+    QCOMPARE(Selection::shared().selectedSearchText(), u"lane"_s);
+    QCOMPARE(Selection::shared().selectedPoemPrayer(),
              u"\n\nFrom The Larkwells\n Good Morning\n\nFebruary 3\n\nSnowdrops in the lane"_s);
     QTRY_VERIFY(visible(window, u"PoemPrayerTextView"_s)->property("text").toString().contains(u"Snowdrops"_s));
     QVERIFY(visible(window, u"PreviousPageButton"_s)->isEnabled());
@@ -219,10 +208,9 @@ void TestPageTurn::turnInSearchResults()
 void TestPageTurn::unsavedEditsKeepThePage()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     insertPages(pages);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = openReader(engine, u"GoodMorningButton"_s, QString(), 0, u"View"_s);
+    QQuickWindow *window = openReader(engine, u"GoodMorningButton"_s, QString(), 0);
     QVERIFY(window);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
     QQuickItem *next = visible(window, u"NextPageButton"_s);

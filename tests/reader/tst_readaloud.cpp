@@ -146,7 +146,6 @@ void TestReadAloud::rateStoredAndApplied()
     TestEnvironment environment;
     DefaultsViewController defaults;
     defaults.viewDidLoad();
-    QCOMPARE(defaults.ReadAloudRate(), 0.0);
     defaults.ReadAloudRateSliderChanged(moved);
     DefaultsViewController reopened;
     reopened.viewDidLoad();
@@ -159,21 +158,19 @@ void TestReadAloud::rateStoredAndApplied()
 
 void TestReadAloud::voiceFollowsTheLocale_data()
 {
-    QTest::addColumn<QLocale>("wanted");
-    QTest::addColumn<QList<QLocale>>("offered");
+    QTest::addColumn<QString>("wanted");
     QTest::addColumn<QString>("chosen"); // empty: the engine keeps its own voice
-    const QList<QLocale> voices{QLocale(u"en_US"_s), QLocale(u"de_AT"_s), QLocale(u"de_DE"_s)};
-    QTest::newRow("the locale itself") << QLocale(u"de_DE"_s) << voices << u"de_DE"_s;
-    QTest::newRow("the first of its language") << QLocale(u"de_CH"_s) << voices << u"de_AT"_s;
-    QTest::newRow("no voice of its language") << QLocale(u"fr_FR"_s) << voices << QString();
+    QTest::newRow("the locale itself") << u"de_DE"_s << u"de_DE"_s;
+    QTest::newRow("the first of its language") << u"de_CH"_s << u"de_AT"_s;
+    QTest::newRow("no voice of its language") << u"fr_FR"_s << QString();
 }
 
 void TestReadAloud::voiceFollowsTheLocale()
 {
-    QFETCH(QLocale, wanted);
-    QFETCH(QList<QLocale>, offered);
+    QFETCH(QString, wanted);
     QFETCH(QString, chosen);
-    const std::optional<QLocale> voice = voiceLocale(wanted, offered);
+    const QList<QLocale> offered{QLocale(u"en_US"_s), QLocale(u"de_AT"_s), QLocale(u"de_DE"_s)};
+    const std::optional<QLocale> voice = voiceLocale(QLocale(wanted), offered);
     QCOMPARE(voice ? voice->name() : QString(), chosen);
 }
 

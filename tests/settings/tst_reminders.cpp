@@ -80,13 +80,8 @@ struct Desktop {
     }
 };
 
-QString program()
-{
-    return QCoreApplication::applicationFilePath();
-}
-
-// A reminder program run with its own session bus address.
-int runLarkwells(const QStringList &arguments, const QString &busAddress, QString *errors = nullptr)
+// A reminder program run with its own session bus address: its exit status, its errors.
+int runLarkwells(const QStringList &arguments, const QString &busAddress, QString &errors)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -96,8 +91,7 @@ int runLarkwells(const QStringList &arguments, const QString &busAddress, QStrin
     QSignalSpy finished(&process, &QProcess::finished); // the event loop runs, so a fake service can answer
     if (!finished.wait(30000))
         return -1;
-    if (errors)
-        *errors = QString::fromLocal8Bit(process.readAllStandardError());
+    errors = QString::fromLocal8Bit(process.readAllStandardError());
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 }
@@ -155,13 +149,14 @@ void TestReminders::scheduleFollowsTheSwitches_data()
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("timeAt0630");
     const QString unit = u"systemd/user/larkwells-morning-reminder"_s;
+    const QString program = QCoreApplication::applicationFilePath();
     QTest::newRow("user systemd: a timer and its service")
         << true << QStringList{u"systemd"_s, u"systemd/user"_s} << QStringList{unit + u".service"_s, unit + u".timer"_s}
-        << u"ExecStart=%1 --remind morning --data-dir \"/tmp/My Book/100%%\"\n"_s.arg(program())
+        << u"ExecStart=%1 --remind morning --data-dir \"/tmp/My Book/100%%\"\n"_s.arg(program)
         << u"OnCalendar=*-*-* 06:30:00\n"_s;
     QTest::newRow("no user systemd: an autostart entry that waits")
         << false << QStringList{u"autostart"_s} << QStringList{u"autostart/larkwells-morning-reminder.desktop"_s}
-        << u"Exec=%1 --remind morning --at 07:00 --data-dir \"/tmp/My Book/100%%\"\n"_s.arg(program())
+        << u"Exec=%1 --remind morning --at 07:00 --data-dir \"/tmp/My Book/100%%\"\n"_s.arg(program)
         << u"--at 06:30 "_s;
 }
 
@@ -298,15 +293,12 @@ void TestReminders::commandExitStatus()
         QVERIFY(bus.registerObject(u"/org/freedesktop/Notifications"_s, &*service, QDBusConnection::ExportAllSlots));
     }
     QString errors;
-    QCOMPARE(runLarkwells(arguments + QStringList{u"--data-dir"_s, environment.dataDirectory()}, address, &errors), status);
+    QCOMPARE(runLarkwells(arguments + QStringList{u"--data-dir"_s, environment.dataDirectory()}, address, errors), status);
     QVERIFY2(errors.contains(message), qPrintable(errors));
     if (service && status == 0)
         QCOMPARE(service->received.size(), 1);
-    if (serviceRuns) {
+    if (serviceRuns) // before the service goes; the daemon ends with its QProcess
         QDBusConnection::disconnectFromBus(u"fake-desktop"_s);
-        daemon.kill();
-        daemon.waitForFinished();
-    }
 }
 
 void TestReminders::rowsInTheWindow()
@@ -314,19 +306,13 @@ void TestReminders::rowsInTheWindow()
     TestEnvironment environment;
     Desktop desktop;
     Clock::set([] { return QDateTime(QDate(2026, 5, 2), QTime(21, 0)); });
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     insertPages({u"May 2|PM|5|2|4|F|Lamps along the lane"_s});
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = openFromCover(engine, u"UserDefaultsButton"_s, u"DefaultsView"_s);
     QVERIFY(window);
-    click(window, waitForItem(window, u"ControlButton"_s));
-    click(window, waitForItem(window, u"UserDefaultsButton"_s));
-    QTRY_COMPARE(topPage(window), u"DefaultsView"_s);
-
-    QQuickItem *morningTime = waitForItem(window, u"MorningReminderTimeField"_s);
-    QVERIFY(morningTime);
-    QCOMPARE(morningTime->property("text").toString(), u"07:00"_s);
-    QCOMPARE(waitForItem(window, u"NightReminderTimeField"_s)->property("text").toString(), u"21:00"_s);
+    QCOMPARE(waitForItem(window, u"MorningReminderTimeField"_s)->property("text").toString(), u"07:00"_s);
+    QQuickItem *nightTime = waitForItem(window, u"NightReminderTimeField"_s);
+    QCOMPARE(nightTime->property("text").toString(), u"21:00"_s);
 
     // By keyboard alone: the switch takes Space, the time field takes a new time.
     waitForItem(window, u"NightReminderSwitch"_s)->forceActiveFocus(Qt::TabFocusReason);
@@ -334,22 +320,19 @@ void TestReminders::rowsInTheWindow()
     QTRY_VERIFY(UserDefaults::standard().boolForKey(u"NightReminder"_s));
     QCOMPARE(desktop.entries(), (QStringList{u"systemd"_s, u"systemd/user"_s, u"systemd/user/larkwells-night-reminder.service"_s,
                                              u"systemd/user/larkwells-night-reminder.timer"_s}));
-    QQuickItem *nightTime = waitForItem(window, u"NightReminderTimeField"_s);
-    nightTime->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keySequence(window, QKeySequence::SelectAll);
-    for (const char key : "22:15")
-        if (key)
+    const auto typeTime = [&](std::string_view time) {
+        nightTime->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keySequence(window, QKeySequence::SelectAll);
+        for (const char key : time)
             QTest::keyClick(window, key);
-    QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Tab);
+    };
+    typeTime("22:15");
     QTRY_COMPARE(UserDefaults::standard().stringForKey(u"NightReminderTime"_s), u"22:15"_s);
     QVERIFY(desktop.read(u"systemd/user/larkwells-night-reminder.timer"_s).contains(u"22:15:00"_s));
 
     // An unreadable time goes back to the stored one.
-    nightTime->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keySequence(window, QKeySequence::SelectAll);
-    QTest::keyClick(window, '9');
-    QTest::keyClick(window, '9');
-    QTest::keyClick(window, Qt::Key_Tab);
+    typeTime("99");
     QTRY_COMPARE(nightTime->property("text").toString(), u"22:15"_s);
 
     click(window, waitForItem(window, u"NightReminderSwitch"_s));

@@ -19,35 +19,19 @@ struct Control
 
 bool isControlRole(QAccessible::Role role)
 {
-    switch (role) {
-    case QAccessible::Button:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ComboBox:
-    case QAccessible::SpinBox:
-    case QAccessible::Slider:
-    case QAccessible::Dial:
-    case QAccessible::EditableText:
-    case QAccessible::PageTab:
-    case QAccessible::ButtonMenu:
-    case QAccessible::ButtonDropDown:
-    case QAccessible::Link:
-    case QAccessible::ListItem:
-        return true;
-    default:
-        return false;
-    }
+    using enum QAccessible::Role;
+    static const QList<QAccessible::Role> roles{Button,   CheckBox,   RadioButton, ComboBox,       SpinBox, Slider,  Dial,
+                                                EditableText, PageTab, ButtonMenu, ButtonDropDown, Link,    ListItem};
+    return roles.contains(role);
 }
 
 bool shown(const QQuickItem *item)
 {
-    if (!item->isVisible() || !item->isEnabled())
-        return false;
     for (const QQuickItem *it = item; it; it = it->parentItem()) {
         if (it->opacity() <= 0.01)
             return false;
     }
-    return true;
+    return item->isVisible() && item->isEnabled();
 }
 
 bool isControl(QQuickItem *item)
@@ -96,23 +80,15 @@ void collect(QQuickItem *item, QRectF clip, QList<Control> &controls)
         collect(child, clip, controls);
 }
 
-// The nearest flickable holding `item`, or null.
-QQuickItem *enclosingFlickable(const QQuickItem *item)
-{
-    for (QQuickItem *it = item->parentItem(); it; it = it->parentItem()) {
-        if (it->inherits("QQuickFlickable"))
-            return it;
-    }
-    return nullptr;
-}
-
 // Whether the rectangle `scene` of `item` can be brought inside the window: it already is, or it lies
 // within what a flickable scrolls through and that flickable can itself be reached.
 bool reachable(const QQuickItem *item, const QRectF &scene, const QRectF &window)
 {
     if (fits(scene, window))
         return true;
-    QQuickItem *flickable = enclosingFlickable(item);
+    QQuickItem *flickable = item->parentItem();
+    while (flickable && !flickable->inherits("QQuickFlickable"))
+        flickable = flickable->parentItem();
     if (!flickable)
         return false;
     auto *content = flickable->property("contentItem").value<QQuickItem *>();
@@ -121,11 +97,6 @@ bool reachable(const QQuickItem *item, const QRectF &scene, const QRectF &window
                        std::max(flickable->property("contentWidth").toReal(), flickable->width()),
                        std::max(flickable->property("contentHeight").toReal(), flickable->height()));
     return fits(inContent, range) && reachable(flickable, sceneRect(flickable), window);
-}
-
-bool related(const QQuickItem *a, const QQuickItem *b)
-{
-    return a->isAncestorOf(b) || b->isAncestorOf(a);
 }
 
 // The popup (dialog, sheet, picker) holding `item`, or null for the screen itself. A popup
@@ -155,7 +126,8 @@ QStringList layoutFaults(QQuickWindow *window)
     for (qsizetype i = 0; i < controls.size(); ++i) {
         for (qsizetype j = i + 1; j < controls.size(); ++j) {
             const QRectF both = controls[i].visible & controls[j].visible;
-            if (both.width() > tolerance && both.height() > tolerance && !related(controls[i].item, controls[j].item)
+            if (both.width() > tolerance && both.height() > tolerance && !controls[i].item->isAncestorOf(controls[j].item)
+                && !controls[j].item->isAncestorOf(controls[i].item)
                 && layerOf(controls[i].item) == layerOf(controls[j].item))
                 faults.append(u"overlap: %1 and %2"_s.arg(describe(controls[i]), describe(controls[j])));
         }
