@@ -75,9 +75,9 @@ Page {
         onClicked: controller.HandleSelection()
     }
 
-    Flickable {
-        id: menu
-        objectName: "MenuScroller"
+    // The menu is made when first opened: most launches read a page and never open it.
+    Loader {
+        id: menuLoader
         // Centred on a portrait screen; on a wide one, beside the whole picture so its title
         // stays in view.
         readonly property bool wide: root.width > root.height
@@ -87,99 +87,12 @@ Page {
         x: wide ? root.width - width - 16 : (root.width - width) / 2
         width: wide ? Math.max(200, Math.min(320, (root.width - img.width) / 2 - 32))
                     : Math.min(root.width - 32, 320)
-        contentHeight: menuButtons.height + 24
-        // the closed menu's buttons still take their room; only an open menu scrolls
-        interactive: controller.menuOpen && contentHeight > height
-        clip: true
-        // A menu taller than the screen shows that it scrolls.
-        ScrollBar.vertical: ScrollBar {
-            policy: menu.interactive ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded
-        }
-
-        // Keyboard focus on a button out of view scrolls it in.
-        function reveal(item: Item) {
-            const top = item.mapToItem(menuButtons, 0, 0).y
-            if (top < contentY)
-                contentY = top
-            else if (top + item.height > contentY + height)
-                contentY = Math.min(contentHeight - height, top + item.height - height + 12)
-        }
-
-        Column {
-            id: menuButtons
-            objectName: "MenuButtons"
-            width: parent.width - (menu.interactive ? 12 : 0) // room for the scroll bar
-            spacing: controller.menuOpen ? 10 : 0
-            Behavior on spacing { NumberAnimation { duration: 300; easing.type: Easing.InOutQuad } }
-
-            readonly property bool listReady: Navigator.canPerform("PoemPrayerSegue")
-
-            MenuButton {
-                id: todayButton
-                objectName: "TodayButton"
-                width: parent.width
-                shown: controller.menuOpen
-                onFocusedByKeyboard: item => menu.reveal(item)
-                text: "Today"
-                enabled: menuButtons.listReady
-                onClicked: controller.TodayButtonClicked()
-            }
-            MenuButton {
-                objectName: "GoodMorningButton"
-                width: parent.width
-                shown: controller.menuOpen
-                onFocusedByKeyboard: item => menu.reveal(item)
-                text: "Good Morning"
-                enabled: menuButtons.listReady
-                onClicked: controller.GoodMorningButtonClicked()
-            }
-            MenuButton {
-                objectName: "GoodNightButton"
-                width: parent.width
-                shown: controller.menuOpen
-                onFocusedByKeyboard: item => menu.reveal(item)
-                text: "Good Night"
-                enabled: menuButtons.listReady
-                onClicked: controller.GoodNightButtonClicked()
-            }
-            MenuButton {
-                id: favoritesButton
-                objectName: "FavoritesButton"
-                width: parent.width
-                shown: controller.menuOpen
-                onFocusedByKeyboard: item => menu.reveal(item)
-                text: qsTr("Favorites")
-                enabled: menuButtons.listReady
-                onClicked: controller.FavoriteButtonClicked()
-            }
-            Repeater {
-                // Buttons whose screens open through their own transitions.
-                model: [
-                    { outlet: "SpecialDaysButton", title: "Special Days", segue: "SpecialDaysSegue" },
-                    { outlet: "SearchButton", title: qsTr("Search"), segue: "SearchSegue" },
-                    { outlet: "NotesButton", title: "Notes", segue: "NotesSegue" },
-                    { outlet: "AboutButton", title: "About", segue: "AboutSegue" },
-                    { outlet: "UserDefaultsButton", title: "User Defaults", segue: "UserDefaultsSegue" },
-                    { outlet: "RateShareButton", title: qsTr("Rate & Share"), segue: "SettingsSegue" },
-                    { outlet: "ImportExportButton", title: qsTr("Import & Export"), segue: "ImportExportSegue" },
-                    { outlet: "ResetButton", title: qsTr("Update Files"), segue: "ExportMenuSegue" }
-                ]
-                delegate: MenuButton {
-                    required property var modelData
-                    objectName: modelData.outlet
-                    width: menuButtons.width
-                    onFocusedByKeyboard: item => menu.reveal(item)
-                    text: modelData.title
-                    shown: controller.menuOpen
-                           && !(modelData.outlet === "ImportExportButton" && controller.ImportExportButtonHidden)
-                    enabled: Navigator.canPerform(modelData.segue)
-                    onClicked: {
-                        if (modelData.outlet === "RateShareButton")
-                            controller.RateShareButtonClicked()
-                        Navigator.performSegue(modelData.segue)
-                    }
-                }
-            }
+    }
+    Connections {
+        target: controller
+        function onMenuOpenChanged() {
+            if (menuLoader.status === Loader.Null)
+                menuLoader.setSource("CoverMenu.qml", { cover: controller })
         }
     }
 }

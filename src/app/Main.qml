@@ -19,7 +19,6 @@ ApplicationWindow {
 
     onWidthChanged: Device.windowSize = Qt.size(width, height)
     onHeightChanged: Device.windowSize = Qt.size(width, height)
-    Component.onCompleted: Device.windowSize = Qt.size(width, height)
 
     StackView {
         id: stack
@@ -51,9 +50,37 @@ ApplicationWindow {
         }
     }
 
-    ShareSheet {}
-
-    AlertDialog {
-        anchors.centerIn: parent
+    // The share sheet and the alert dialog are made when first wanted: most launches show neither.
+    property QtObject shareSheet: null
+    property QtObject alertDialog: null
+    Component {
+        id: shareSheetComponent
+        ShareSheet {}
+    }
+    Component {
+        id: alertDialogComponent
+        AlertDialog {
+            anchors.centerIn: parent
+        }
+    }
+    function makeShareSheet() {
+        if (Sharing.showing && !shareSheet)
+            shareSheet = shareSheetComponent.createObject(window)
+    }
+    function makeAlertDialog() {
+        if (Alerts.showing && !alertDialog)
+            alertDialog = alertDialogComponent.createObject(window)
+    }
+    Connections {
+        target: Sharing
+        function onShowingChanged() { window.makeShareSheet() }
+    }
+    Connections {
+        target: Alerts
+        function onCurrentChanged() { window.makeAlertDialog() }
+    }
+    Component.onCompleted: {
+        Device.windowSize = Qt.size(width, height)
+        makeAlertDialog() // an alert raised while the window was being built
     }
 }

@@ -23,5 +23,6 @@ list(APPEND LARKWELLS_SOURCES
 list(APPEND LARKWELLS_QML
     app/Main.qml
     app/CoverView.qml
+    app/CoverMenu.qml
     app/MenuButton.qml
 )

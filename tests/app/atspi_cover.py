@@ -131,6 +131,13 @@ def open_menu(app, application):
     application.check_alive("opening the menu")
 
 
+def close_menu(app, application):
+    press(named(app, "Close menu", "push button")[0])
+    wait_for(lambda: not any(shown(n) for n in named(app, "Today", "push button")), "the closed menu")
+    time.sleep(0.5)  # the slide
+    application.check_alive("closing the menu")
+
+
 def press_every_menu_button(app, application, menu_open):
     opened = 0
     for title in MENU:
@@ -211,6 +218,9 @@ def main():
         press(ok[0])
         wait_for(lambda: named(app, "Menu", "push button"), "the cover")
         time.sleep(0.5)
+        # The menu is made on its first opening: opened and closed, its buttons are all there.
+        open_menu(app, application)
+        close_menu(app, application)
         if press_every_menu_button(app, application, False):
             fail("a button of the closed menu opened a screen")
         open_menu(app, application)

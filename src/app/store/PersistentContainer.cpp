@@ -8,10 +8,17 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStandardPaths>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+bool flushToDisk(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) && ::fsync(file.handle()) == 0;
+}
+
 QString &directorySetting()
 {
     static QString directory;
@@ -23,6 +30,16 @@ StoreError errorOf(const QSqlError &error, const QString &path)
     return {error.text(), {{u"NSSQLiteErrorDomain"_s, error.nativeErrorCode()},
                            {u"NSFilePath"_s, path},
                            {u"reason"_s, error.databaseText()}}};
+}
+
+std::optional<StoreError> execAll(QSqlDatabase &database, const QString &path, const QStringList &statements)
+{
+    QSqlQuery query(database);
+    for (const QString &statement : statements) {
+        if (!query.exec(statement))
+            return errorOf(query.lastError(), path);
+    }
+    return std::nullopt;
 }
 
 // Each step brings the schema from version i to i + 1, in one transaction.
@@ -117,7 +134,8 @@ std::optional<StoreError> PersistentContainer::open()
 }
 
 // A new store is built beside its final name and moved into place once its schema is written,
-// so an interrupted first start leaves no empty or half-made store behind.
+// so an interrupted first start leaves no empty or half-made store behind. Until then there is
+// nothing to lose: SQLite writes it without flushing, and the finished file is flushed once.
 std::optional<StoreError> PersistentContainer::create(const QString &path)
 {
     const QString building = path + u".new"_s;
@@ -131,12 +149,14 @@ std::optional<StoreError> PersistentContainer::create(const QString &path)
         if (!database.open())
             error = errorOf(database.lastError(), building);
         if (!error)
-            error = configure(database, building);
+            error = configureUnflushed(database, building);
         if (!error)
             error = migrate(database, building);
         database.close();
     }
     QSqlDatabase::removeDatabase(connection);
+    if (!error && !flushToDisk(building))
+        error = StoreError{u"The new store could not be written to disk."_s, {{u"NSFilePath"_s, building}}};
     if (!error && !QFile::rename(building, path))
         error = StoreError{u"The new store could not be moved into place."_s, {{u"NSFilePath"_s, path}}};
     return error;
@@ -174,14 +194,14 @@ std::optional<StoreError> PersistentContainer::check(QSqlDatabase &database, con
 
 std::optional<StoreError> PersistentContainer::configure(QSqlDatabase &database, const QString &path)
 {
-    QSqlQuery pragma(database);
     // synchronous first: a new store's switch to WAL is then written with one disk flush fewer.
-    for (const QString &statement : {u"PRAGMA synchronous = NORMAL"_s, u"PRAGMA journal_mode = WAL"_s,
-                                     u"PRAGMA busy_timeout = 5000"_s}) {
-        if (!pragma.exec(statement))
-            return errorOf(pragma.lastError(), path);
-    }
-    return std::nullopt;
+    return execAll(database, path, {u"PRAGMA synchronous = NORMAL"_s, u"PRAGMA journal_mode = WAL"_s,
+                                    u"PRAGMA busy_timeout = 5000"_s});
+}
+
+std::optional<StoreError> PersistentContainer::configureUnflushed(QSqlDatabase &database, const QString &path)
+{
+    return execAll(database, path, {u"PRAGMA synchronous = OFF"_s, u"PRAGMA journal_mode = WAL"_s});
 }
 
 std::optional<StoreError> PersistentContainer::migrate(QSqlDatabase &database, const QString &path)

@@ -31,6 +31,7 @@ private:
     static std::optional<StoreError> refuseUnwritable(const QString &path);
     static std::optional<StoreError> check(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
+    static std::optional<StoreError> configureUnflushed(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> migrate(QSqlDatabase &database, const QString &path);
 
     QString m_name;
