@@ -76,6 +76,9 @@ void TestUpdateFileWindow::exportPagesThenImportAndUndoAnAboutFile()
     QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ImportTextView"_s)->property("text").toString(),
                  u"[ABOUT]\nImported^From the file\n"_s);
 
+    // The closing dialog's shade takes clicks until it has gone.
+    QTRY_VERIFY(!picker->property("visible").toBool());
+    QTRY_VERIFY(!pickerDialog->property("visible").toBool());
     click(window, waitForItem(window, u"ImportButton"_s));
     QCOMPARE(storedAbouts(), QStringList{u"Imported|From the file"_s});
     QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
