@@ -7,6 +7,7 @@
 //
 // Passes alternate the screen and its floor; medians are printed. Nothing is asserted.
 #include "AppDelegate.h"
+#include "BenchData.h"
 #include "BenchTable.h"
 #include "Log.h"
 #include "MainTableViewController.h"
@@ -113,14 +114,9 @@ QQuickItem *topScreen(QQuickWindow *window)
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenUnlessTold();
     QGuiApplication app(argc, argv);
-    Log::setSink([](const QString &) {});
-    QTemporaryDir data;
-    UserDefaults::setStandardDirectory(data.path());
-    PersistentContainer::setDefaultDirectory(data.path());
-    AppDelegate::shared().reset();
+    const BenchData data;
     {
         PageSeeding seeding;
         seeding.loadPoemPrayers(PageFile::columns);

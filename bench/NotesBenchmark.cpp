@@ -7,6 +7,7 @@
 //
 // Rounds alternate the list and its floor; medians are printed. Nothing is asserted.
 #include "AppDelegate.h"
+#include "BenchData.h"
 #include "BenchTable.h"
 #include "Entities.h"
 #include "Log.h"
@@ -118,14 +119,9 @@ QStringList keystrokes(const QString &word)
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenUnlessTold();
     QGuiApplication app(argc, argv);
-    Log::setSink([](const QString &) {});
-    QTemporaryDir data;
-    UserDefaults::setStandardDirectory(data.path());
-    PersistentContainer::setDefaultDirectory(data.path());
-    AppDelegate::shared().reset();
+    const BenchData data;
     makeNotes();
 
     std::vector<double> opened, bare;

@@ -3,6 +3,7 @@
 // the same run: a plain substring scan over the same fields lowered beforehand, collecting the
 // matching pages. Prints the median time a keystroke of each and their ratio; nothing is asserted.
 #include "AppDelegate.h"
+#include "BenchData.h"
 #include "BenchTable.h"
 #include "Log.h"
 #include "PageFile.h"
@@ -80,14 +81,9 @@ QList<double> timeFloor(const QList<PoemPrayer *> &pages, int scope, const QStri
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenUnlessTold();
     QGuiApplication app(argc, argv);
-    Log::setSink([](const QString &) {});
-    QTemporaryDir data;
-    UserDefaults::setStandardDirectory(data.path());
-    PersistentContainer::setDefaultDirectory(data.path());
-    AppDelegate::shared().reset();
+    const BenchData data;
     PageSeeding seeding;
     seeding.loadPoemPrayers(PageFile::columns);
 

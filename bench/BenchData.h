@@ -1,0 +1,28 @@
+#pragma once
+
+// The application's services pointed at a throw-away data folder, with the log kept quiet, so a
+// benchmark measures the work and not the disk of whoever runs it.
+#include "AppDelegate.h"
+#include "Log.h"
+#include "PersistentContainer.h"
+#include "UserDefaults.h"
+
+#include <QTemporaryDir>
+
+// Headless unless the caller asked for a platform.
+inline void useOffscreenUnlessTold()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+struct BenchData {
+    QTemporaryDir folder;
+    BenchData()
+    {
+        Log::setSink([](const QString &) {});
+        UserDefaults::setStandardDirectory(folder.path());
+        PersistentContainer::setDefaultDirectory(folder.path());
+        AppDelegate::shared().reset();
+    }
+};
