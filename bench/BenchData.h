@@ -7,6 +7,7 @@
 #include "PersistentContainer.h"
 #include "UserDefaults.h"
 
+#include <QStringList>
 #include <QTemporaryDir>
 
 // Headless unless the caller asked for a platform.
@@ -26,3 +27,13 @@ struct BenchData {
         AppDelegate::shared().reset();
     }
 };
+
+// Every prefix of `word`, then the empty text: one entry a keystroke.
+inline QStringList keystrokes(const QString &word)
+{
+    QStringList texts;
+    for (qsizetype length = 1; length <= word.size(); ++length)
+        texts.append(word.left(length));
+    texts.append(QString());
+    return texts;
+}

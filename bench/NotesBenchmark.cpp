@@ -106,15 +106,6 @@ double openBare()
         qFatal("the bare fetch read %zu notes", notes.size());
     return elapsed;
 }
-
-QStringList keystrokes(const QString &word)
-{
-    QStringList texts;
-    for (qsizetype length = 1; length <= word.size(); ++length)
-        texts.append(word.left(length));
-    texts.append(QString());
-    return texts;
-}
 }
 
 int main(int argc, char **argv)

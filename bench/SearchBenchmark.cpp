@@ -25,15 +25,6 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int rounds = 200;
 
-// Every prefix of `word`, then the empty text: one entry a keystroke.
-QStringList keystrokes(const QString &word)
-{
-    QStringList texts;
-    for (qsizetype length = 1; length <= word.size(); ++length)
-        texts.append(word.left(length));
-    texts.append(QString());
-    return texts;
-}
 
 double medianMs(QList<double> samples)
 {
