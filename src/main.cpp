@@ -197,6 +197,7 @@ int main(int argc, char *argv[])
     if (!openPage.isEmpty() && !TodaysPage::open(openPage))
         std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "The book has no page for today.")));
     const int status = testing ? selfTestRun.exec(engine) : QGuiApplication::exec();
+    UserDefaults::standard().synchronize();
     AppDelegate::shared().reset(); // close the store while the database driver still exists
     return status;
 }

@@ -25,12 +25,67 @@ ApplicationWindow {
         objectName: "stack"
         anchors.fill: parent
         initialItem: CoverView {}
+        onBusyChanged: if (!busy) window.settle()
+        onDepthChanged: if (!busy) window.settle()
+    }
+
+    // The screen the top screen most likely opens next (its `likelySegue`), built in the frames
+    // the reader spends looking at it. Such a screen loads its content when it is shown, and it
+    // is ours to destroy once it has left the stack.
+    property Item aheadScreen: null
+    property string aheadPage
+    property var shownAhead: []
+    Item {
+        id: aheadHolder
+        visible: false
+    }
+    function settle() {
+        shownAhead = shownAhead.filter(screen => {
+            if (stack.find(item => item === screen))
+                return true
+            screen.destroy()
+            return false
+        })
+        const top = stack.get(stack.depth - 1, StackView.DontLoad)
+        const page = top && top.likelySegue ? Navigator.pageFor(top.likelySegue) : ""
+        if (page && page !== aheadPage)
+            buildAhead(page)
+    }
+    function buildAhead(page: string) {
+        if (aheadScreen)
+            aheadScreen.destroy()
+        aheadScreen = null
+        aheadPage = page
+        const component = Qt.createComponent(page, Component.Asynchronous)
+        const incubate = () => {
+            if (component.status !== Component.Ready || aheadPage !== page)
+                return
+            const incubator = component.incubateObject(aheadHolder, {}, Qt.Asynchronous)
+            incubator.onStatusChanged = status => {
+                if (status === Component.Ready && aheadPage === page)
+                    aheadScreen = incubator.object
+                else if (status === Component.Ready)
+                    incubator.object.destroy()
+            }
+        }
+        if (component.status === Component.Loading)
+            component.statusChanged.connect(incubate)
+        else
+            incubate()
     }
 
     Connections {
         target: Navigator
         function onSegueRequested(identifier: string, page: string) {
-            stack.push(page)
+            if (window.aheadScreen && window.aheadPage === page) {
+                const screen = window.aheadScreen
+                window.aheadScreen = null
+                window.aheadPage = ""
+                window.shownAhead = window.shownAhead.concat([screen])
+                stack.push(screen)
+            } else {
+                stack.push(page)
+            }
         }
         function onUnwindRequested(identifier: string) {
             // Back to the nearest screen below that accepts this unwind, which then hears of it.

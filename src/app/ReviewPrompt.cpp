@@ -10,7 +10,8 @@ void ReviewPrompt::run(const std::optional<QString> &currentVersion)
     UserDefaults &defaults = UserDefaults::standard();
     // Missing or odd values read as 0 or absent: the prompt never stops the app.
     const qint64 count = defaults.integerForKey(countKey) + 1;
-    defaults.set(countKey, count);
+    // Counted on the reader's way to its first frame: the disk is not waited for.
+    defaults.setValuesInBackground({{countKey, count}});
     if (count < 3)
         return;
     const std::optional<QString> last = defaults.stringForKey(versionKey);

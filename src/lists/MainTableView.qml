@@ -8,6 +8,8 @@ Page {
     id: root
     objectName: "MainTableView"
     readonly property var unwindTargets: ["unwindSegue"]
+    // Built while the list waits, so a chosen page shows in the next frame.
+    readonly property string likelySegue: "ViewPoemSegue"
     function unwind(identifier: string) { controller.unwindSegue() }
 
     MainTableViewController { id: controller }

@@ -56,6 +56,14 @@ UserDefaults::UserDefaults(QString filePath)
     load();
 }
 
+UserDefaults::~UserDefaults()
+{
+    // The last background write still lands; the application synchronizes before it ends, so a
+    // failure has been reported by now.
+    if (m_backgroundWrite.valid())
+        m_backgroundWrite.wait();
+}
+
 std::optional<UserDefaults::Contents> UserDefaults::parse(const QByteArray &bytes)
 {
     QJsonParseError error;
@@ -107,7 +115,14 @@ void UserDefaults::load()
         Log::line(u"Preferences: ignored malformed entry "_s + key + u", file kept as "_s + aside);
 }
 
-void UserDefaults::write() const
+void UserDefaults::write()
+{
+    synchronize(); // an older background write must not land after this one
+    if (const auto reason = writeFile(m_filePath, serialized()))
+        writeFailed(*reason);
+}
+
+QByteArray UserDefaults::serialized() const
 {
     QJsonObject root;
     for (auto it = m_values.begin(); it != m_values.end(); ++it) {
@@ -115,14 +130,32 @@ void UserDefaults::write() const
         root.insert(it.key(), QJsonObject{{u"type"_s, typeName(type)},
                                           {u"value"_s, QJsonValue::fromVariant(it.value())}});
     }
-    const QByteArray bytes = QJsonDocument(root).toJson(QJsonDocument::Indented);
-    QSaveFile file(m_filePath);
+    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+}
+
+std::optional<QString> UserDefaults::writeFile(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
     // A full disk can end a write part way without an error: only a complete write may replace the file.
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return;
+        return std::nullopt;
     const QString reason = file.error() == QFileDevice::NoError ? u"the disk took only part of it"_s : file.errorString();
     file.cancelWriting();
+    return reason;
+}
+
+void UserDefaults::writeFailed(const QString &reason) const
+{
     fatalError(u"Fatal error: cannot write the preferences file "_s + m_filePath + u": "_s + reason);
+}
+
+bool UserDefaults::synchronize()
+{
+    if (!m_backgroundWrite.valid())
+        return true;
+    if (const auto reason = m_backgroundWrite.get())
+        writeFailed(*reason);
+    return true;
 }
 
 QVariant UserDefaults::normalized(const QVariant &value)
@@ -194,9 +227,21 @@ void UserDefaults::set(const QString &key, const QVariant &value)
 
 void UserDefaults::setValues(const QList<std::pair<QString, QVariant>> &values)
 {
+    store(values);
+    write();
+}
+
+void UserDefaults::setValuesInBackground(const QList<std::pair<QString, QVariant>> &values)
+{
+    store(values);
+    synchronize();
+    m_backgroundWrite = std::async(std::launch::async, writeFile, m_filePath, serialized());
+}
+
+void UserDefaults::store(const QList<std::pair<QString, QVariant>> &values)
+{
     for (const auto &[key, value] : values)
         m_values.insert(key, normalized(value));
-    write();
 }
 
 void UserDefaults::removeObject(const QString &key)

@@ -4,11 +4,13 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <future>
 #include <optional>
 
 // The user's preferences: a flat, typed key-value store kept in one JSON file
 // ({"key": {"type": "bool" | "integer" | "double" | "string", "value": ...}}).
-// Every write is durable when it returns (the file is replaced atomically).
+// Every write is durable when it returns (the file is replaced atomically), except a background
+// write, which is durable once `synchronize` returns.
 class UserDefaults
 {
 public:
@@ -20,6 +22,7 @@ public:
     static void setStandardDirectory(const QString &directory);
 
     explicit UserDefaults(QString filePath);
+    ~UserDefaults();
 
     // The stored value with its type (bool, qint64, double or QString); invalid when absent.
     QVariant object(const QString &key) const;
@@ -36,9 +39,12 @@ public:
     void set(const QString &key, const QVariant &value);
     // Stores several values with one durable write.
     void setValues(const QList<std::pair<QString, QVariant>> &values);
+    // Stores values at once and writes the file on another thread: for values a crash may lose
+    // harmlessly (a counter) on a path where waiting for the disk would hold a screen's first frame.
+    void setValuesInBackground(const QList<std::pair<QString, QVariant>> &values);
     void removeObject(const QString &key);
-    // Every write is already durable; kept so callers read like the platform they mirror.
-    bool synchronize() { return true; }
+    // Waits for a background write to reach the disk; one that failed is a fatal stop.
+    bool synchronize();
 
     QString filePath() const { return m_filePath; }
 
@@ -52,9 +58,15 @@ public:
 
 private:
     void load();
-    void write() const;
+    void store(const QList<std::pair<QString, QVariant>> &values);
+    void write();
+    QByteArray serialized() const;
+    // Replaces the file with `bytes`; why it could not, or none.
+    static std::optional<QString> writeFile(const QString &path, const QByteArray &bytes);
+    [[noreturn]] void writeFailed(const QString &reason) const;
     static QVariant normalized(const QVariant &value);
 
     QString m_filePath;
     QHash<QString, QVariant> m_values;
+    std::future<std::optional<QString>> m_backgroundWrite;
 };

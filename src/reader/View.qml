@@ -12,7 +12,14 @@ Page {
     title: controller.title
 
     ViewController { id: controller }
-    Component.onCompleted: controller.viewDidLoad()
+    // The page list builds its reader ahead of the tap (Main.qml): the page loads when shown.
+    property bool loaded: false
+    StackView.onActivating: {
+        if (!loaded) {
+            loaded = true
+            controller.viewDidLoad()
+        }
+    }
 
     Connections {
         target: controller
