@@ -197,10 +197,6 @@ void TestSettings::wallpaperRowShownAndChanged_data()
     QTest::addColumn<QString>("labelAfter");
     QTest::newRow("never shown: \"true\" written, then unticked")
         << QVariant() << 1 << u"Used"_s << u"string true"_s << 0 << u"string false"_s << u"Not Used"_s;
-    QTest::newRow("used, ticked again") << QVariant(u"true"_s) << 1 << u"Used"_s << u"string true"_s << 1
-                                        << u"string true"_s << u"Used"_s;
-    QTest::newRow("not used, ticked") << QVariant(u"false"_s) << 0 << u"Not Used"_s << u"string false"_s << 1
-                                      << u"string true"_s << u"Used"_s;
     QTest::newRow("any other text shows as used; mixed is not used")
         << QVariant(u"yes"_s) << 1 << u"Used"_s << u"string yes"_s << 2 << u"string false"_s << u"Not Used"_s;
 }
