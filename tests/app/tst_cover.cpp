@@ -1,6 +1,8 @@
 #include "Alerts.h"
+#include "Clock.h"
 #include "CoverViewController.h"
 #include "Navigator.h"
+#include "PageRows.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "TestSupport.h"
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void reviewPromptCountsPageOpenings_data();
     void reviewPromptCountsPageOpenings();
     void screenReaderPressesOnlyWhatIsShown();
+    void screenReaderOnThePageList();
     void segueWithoutScreenStopsNamingIt();
 };
 
@@ -146,6 +149,32 @@ void TestCover::screenReaderPressesOnlyWhatIsShown()
         }
     }
     QVERIFY(opened >= 4); // the four list buttons at least
+}
+
+// On the page list a screen reader's press marks the row's favourite and switches the segment.
+void TestCover::screenReaderOnThePageList()
+{
+    TestEnvironment environment;
+    Clock::set([] { return QDateTime(QDate(2027, 6, 2), QTime(8, 0)); });
+    insertPages({u"May 1|AM|5|1|1|F|Dew on the gate"_s});
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+    QVERIFY(window);
+    QQuickItem *row = waitForItem(window, u"row-0"_s);
+    QVERIFY(row);
+    QQuickItem *favorite = findItem(row, u"FavoriteCheckBox"_s)->parentItem()->parentItem(); // the whole mark
+    QAccessibleInterface *box = QAccessible::queryAccessibleInterface(favorite);
+    QCOMPARE(box->role(), QAccessible::CheckBox);
+    QCOMPARE(box->text(QAccessible::Name), u"Favorite"_s);
+    QVERIFY(pressAsScreenReader(favorite));
+    QTRY_VERIFY(box->state().checked);
+    QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}), QStringList{u"T"_s});
+
+    QQuickItem *today = waitForItem(window, u"segment-Today"_s);
+    QCOMPARE(QAccessible::queryAccessibleInterface(today)->role(), QAccessible::PageTab);
+    QVERIFY(pressAsScreenReader(today));
+    QTRY_VERIFY(QAccessible::queryAccessibleInterface(today)->state().selected);
+    QTRY_COMPARE(waitForItem(window, u"table"_s)->property("count").toInt(), 0); // no page for June 2
 }
 
 void TestCover::segueWithoutScreenStopsNamingIt()
