@@ -1,6 +1,8 @@
 #include "Alerts.h"
+#include "Clock.h"
 #include "CoverViewController.h"
 #include "Navigator.h"
+#include "PageRows.h"
 #include "ReviewPrompt.h"
 #include "Selection.h"
 #include "TestSupport.h"
@@ -25,27 +27,12 @@ private Q_SLOTS:
     void appearingClearsTheListChoice();
     void reviewPromptCountsPageOpenings_data();
     void reviewPromptCountsPageOpenings();
-    void coverPageOpensAndClosesItsMenu();
     void screenReaderPressesOnlyWhatIsShown();
+    void screenReaderOnThePageList();
     void segueWithoutScreenStopsNamingIt();
-    void smallPhoneMenuScrollsToItsLastButton();
 };
 
 namespace {
-// The cover window with the first-launch advice, shown in front, answered.
-QQuickWindow *openCover(QQmlApplicationEngine &engine)
-{
-    QQuickWindow *window = loadMainWindow(engine);
-    if (!window)
-        return nullptr;
-    auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
-    if (!QTest::qWaitFor([&] { return dialog->property("opened").toBool(); })
-        || dialog->property("title").toString() != u"Initial Setup Recomendations?"_s)
-        return nullptr;
-    Alerts::shared().dismiss(0);
-    return QTest::qWaitFor([&] { return !dialog->property("visible").toBool(); }) ? window : nullptr;
-}
-
 // Presses as a screen reader does; false when the item offers no press at all.
 bool pressAsScreenReader(QQuickItem *item)
 {
@@ -107,30 +94,6 @@ void TestCover::reviewPromptCountsPageOpenings()
     QCOMPARE(UserDefaults::standard().stringForKey(u"lastReviewRequestAppVersion"_s).value_or(u"-"_s), lastVersion);
 }
 
-void TestCover::coverPageOpensAndClosesItsMenu()
-{
-    TestEnvironment environment;
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openCover(engine);
-    QVERIFY(window);
-    auto *control = findItem(window->contentItem(), u"ControlButton"_s);
-    QVERIFY(control);
-    // The menu is made on its first opening, closed, so that this opening slides as any other.
-    QVERIFY(!findItem(window->contentItem(), u"TodayButton"_s));
-    const QPointF centre = control->mapToScene(QPointF(control->width() / 2, control->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-    auto *today = findItem(window->contentItem(), u"TodayButton"_s);
-    auto *importExport = findItem(window->contentItem(), u"ImportExportButton"_s);
-    QVERIFY(today && importExport);
-    QVERIFY(today->height() < 40);
-    for (const bool open : {true, false, true}) {
-        QTRY_COMPARE(today->isVisible(), open);
-        QTRY_COMPARE(today->height() > 40, open); // the 0.3 s slide has run
-        QVERIFY(!importExport->isVisible());
-        QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-    }
-}
-
 // Every menu button, the always hidden one too, pressed through the accessibility interface with
 // the menu closed and open: hidden and disabled buttons refuse, shown ones open their screen,
 // and no press ends the application.
@@ -138,15 +101,20 @@ void TestCover::screenReaderPressesOnlyWhatIsShown()
 {
     TestEnvironment environment;
     QQmlApplicationEngine engine;
-    QQuickWindow *window = openCover(engine);
+    QQuickWindow *window = loadMainWindow(engine); // a first launch: the book is seeded
     QVERIFY(window);
+    QTRY_VERIFY(Alerts::shared().showing());
+    dismissAlerts();
     auto *stack = findItem(window->contentItem(), u"stack"_s);
     auto *control = findItem(window->contentItem(), u"ControlButton"_s);
     QVERIFY(stack && control);
-    const QStringList buttons{u"TodayButton"_s, u"GoodMorningButton"_s, u"GoodNightButton"_s,
-                              u"FavoritesButton"_s, u"SpecialDaysButton"_s, u"SearchButton"_s,
-                              u"NotesButton"_s, u"AboutButton"_s, u"UserDefaultsButton"_s,
-                              u"RateShareButton"_s, u"ImportExportButton"_s, u"ResetButton"_s};
+    // Each button by its object name, and the name a screen reader says.
+    const QList<std::pair<QString, QString>> buttons{
+        {u"TodayButton"_s, u"Today"_s}, {u"GoodMorningButton"_s, u"Good Morning"_s}, {u"GoodNightButton"_s, u"Good Night"_s},
+        {u"FavoritesButton"_s, u"Favorites"_s}, {u"SpecialDaysButton"_s, u"Special Days"_s}, {u"SearchButton"_s, u"Search"_s},
+        {u"NotesButton"_s, u"Notes"_s}, {u"AboutButton"_s, u"About"_s}, {u"UserDefaultsButton"_s, u"User Defaults"_s},
+        {u"RateShareButton"_s, u"Rate & Share"_s}, {u"ImportExportButton"_s, u"Import & Export"_s},
+        {u"ResetButton"_s, u"Update Files"_s}};
     // Opened and closed once: a menu never opened has no buttons yet.
     for (int flip = 0; flip < 2; ++flip)
         QVERIFY(pressAsScreenReader(control));
@@ -157,9 +125,12 @@ void TestCover::screenReaderPressesOnlyWhatIsShown()
             QVERIFY(pressAsScreenReader(control));
             QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
         }
-        for (const QString &name : buttons) {
+        QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name),
+                 open ? u"Close menu"_s : u"Menu"_s);
+        for (const auto &[name, title] : buttons) {
             auto *button = findItem(window->contentItem(), name);
             QVERIFY2(button, qPrintable(name));
+            QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name), title);
             const bool pressable = button->isVisible() && button->isEnabled();
             if (!open || name == u"ImportExportButton"_s)
                 QVERIFY2(!pressable, qPrintable(name));
@@ -180,30 +151,30 @@ void TestCover::screenReaderPressesOnlyWhatIsShown()
     QVERIFY(opened >= 4); // the four list buttons at least
 }
 
-// On a 360x640 phone the open menu is taller than the screen: it scrolls far enough to show its
-// last button.
-void TestCover::smallPhoneMenuScrollsToItsLastButton()
+// On the page list a screen reader's press marks the row's favourite and switches the segment.
+void TestCover::screenReaderOnThePageList()
 {
     TestEnvironment environment;
+    Clock::set([] { return QDateTime(QDate(2027, 6, 2), QTime(8, 0)); });
+    insertPages({u"May 1|AM|5|1|1|F|Dew on the gate"_s});
     QQmlApplicationEngine engine;
-    QQuickWindow *window = openCover(engine);
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
     QVERIFY(window);
-    window->resize(360, 640);
-    QVERIFY(pressAsScreenReader(findItem(window->contentItem(), u"ControlButton"_s)));
-    auto *menu = findItem(window->contentItem(), u"MenuScroller"_s);
-    auto *last = findItem(window->contentItem(), u"ResetButton"_s);
-    QVERIFY(menu && last);
-    QTRY_VERIFY(last->height() > 40);
-    QTRY_COMPARE(window->contentItem()->height(), 640.0);
-    const auto inView = [&] {
-        const QRectF shown = last->mapRectToItem(menu, last->boundingRect());
-        return shown.top() >= 0 && shown.bottom() <= menu->height();
-    };
-    QTRY_VERIFY(menu->property("interactive").toBool());
-    QTRY_VERIFY(!inView());
-    // Flicked to the end, as far as the menu lets a finger take it.
-    menu->setProperty("contentY", menu->property("contentHeight").toDouble() - menu->height());
-    QTRY_VERIFY(inView());
+    QQuickItem *row = waitForItem(window, u"row-0"_s);
+    QVERIFY(row);
+    QQuickItem *favorite = findItem(row, u"FavoriteCheckBox"_s)->parentItem()->parentItem(); // the whole mark
+    QAccessibleInterface *box = QAccessible::queryAccessibleInterface(favorite);
+    QCOMPARE(box->role(), QAccessible::CheckBox);
+    QCOMPARE(box->text(QAccessible::Name), u"Favorite"_s);
+    QVERIFY(pressAsScreenReader(favorite));
+    QTRY_VERIFY(box->state().checked);
+    QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}), QStringList{u"T"_s});
+
+    QQuickItem *today = waitForItem(window, u"segment-Today"_s);
+    QCOMPARE(QAccessible::queryAccessibleInterface(today)->role(), QAccessible::PageTab);
+    QVERIFY(pressAsScreenReader(today));
+    QTRY_VERIFY(QAccessible::queryAccessibleInterface(today)->state().selected);
+    QTRY_COMPARE(waitForItem(window, u"table"_s)->property("count").toInt(), 0); // no page for June 2
 }
 
 void TestCover::segueWithoutScreenStopsNamingIt()

@@ -1,5 +1,6 @@
 #include "AppDelegate.h"
 #include "Entities.h"
+#include "PageRows.h"
 #include "TestSupport.h"
 
 #include <QDir>
@@ -41,9 +42,6 @@ private Q_SLOTS:
     void fetchesFilterAndSort();
     void unsavedChangesCount();
     void identityMapGivesOneObjectPerRow();
-    void saveWritesOneTransactionAndSchema();
-    void unsetValuesReadAsAbsentOrZero();
-    void saveContextOnlyWhenChanged();
     void olderStoreIsUpgradedWithItsRows();
 };
 
@@ -120,74 +118,12 @@ void TestStore::identityMapGivesOneObjectPerRow()
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
     PoemPrayer *page = addPage(context, u"Jan 1"_s, u"AM"_s, 1, 1);
     QVERIFY(!context.save());
-    const QList<PoemPrayer *> first = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
-    const QList<PoemPrayer *> second = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
-    QCOMPARE(first.size(), 1);
-    QCOMPARE(first.first(), page);
-    QCOMPARE(second.first(), page);
+    QCOMPARE(context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()), QList<PoemPrayer *>{page});
     // A change saved elsewhere shows in a fetched object that has no changes of its own.
     const auto other = loadedContainer();
     other->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).first()->setFavorite(u"T"_s);
     QVERIFY(!other->viewContext().save());
     QCOMPARE(context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).first()->favorite(), u"T"_s);
-}
-
-void TestStore::saveWritesOneTransactionAndSchema()
-{
-    TestEnvironment environment;
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    Notes *note = context.insertNewObject<Notes>();
-    note->setDt(QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC));
-    note->setSubject(u"s"_s);
-    context.insertNewObject<About>()->setName(u"Good Morning Preface"_s);
-    context.insertNewObject<SpecialDay>()->setDayname(u"Easter Day"_s);
-    QVERIFY(!context.save());
-
-    QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"inspect"_s);
-    db.setDatabaseName(QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s));
-    QVERIFY(db.open());
-    {
-        QSqlQuery query(db);
-        QVERIFY(query.exec(u"SELECT dt, subject, notes FROM Notes"_s) && query.next());
-        QCOMPARE(query.value(0).toString(), u"2026-03-04T05:06:07Z"_s);
-        QCOMPARE(query.value(1).toString(), u"s"_s);
-        QVERIFY(query.value(2).isNull());
-        QVERIFY(query.exec(u"SELECT name FROM About"_s) && query.next());
-        QVERIFY(query.exec(u"SELECT dayname FROM SpecialDay"_s) && query.next());
-        QVERIFY(query.exec(u"PRAGMA journal_mode"_s) && query.next());
-        QCOMPARE(query.value(0).toString(), u"wal"_s);
-        QVERIFY(query.exec(u"SELECT id, ampm, day, dt, favorite, month, pagenum, poemprayer FROM PoemPrayer"_s));
-    }
-    db.close();
-    db = QSqlDatabase();
-    QSqlDatabase::removeDatabase(u"inspect"_s);
-}
-
-void TestStore::unsetValuesReadAsAbsentOrZero()
-{
-    TestEnvironment environment;
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    context.insertNewObject<PoemPrayer>()->setDt(u"x"_s);
-    QVERIFY(!context.save());
-    const auto other = loadedContainer();
-    const PoemPrayer *page = other->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).first();
-    QCOMPARE(page->month(), qint16(0));
-    QVERIFY(!page->favorite().has_value());
-    QVERIFY(!page->poemprayer().has_value());
-    QCOMPARE(page->dt(), u"x"_s);
-}
-
-void TestStore::saveContextOnlyWhenChanged()
-{
-    TestEnvironment environment;
-    AppDelegate &delegate = AppDelegate::shared();
-    ManagedObjectContext &context = delegate.viewContext();
-    QVERIFY(!context.hasChanges());
-    delegate.saveContext();
-    addPage(context, u"Jan 1"_s, u"AM"_s, 1, 1);
-    delegate.applicationWillTerminate();
-    QVERIFY(!context.hasChanges());
-    QCOMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 1);
 }
 
 // A store written by the first version (no lookup indexes) opens in this one, rows intact.
@@ -216,29 +152,20 @@ void TestStore::olderStoreIsUpgradedWithItsRows()
     }
     QSqlDatabase::removeDatabase(u"first-version"_s);
 
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const QList<PoemPrayer *> pages = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
-    QCOMPARE(pages.size(), 1);
-    QCOMPARE(pages.first()->favorite(), u"T"_s);
-    QCOMPARE(pages.first()->poemprayer(), u"Kept"_s);
-    const QList<Notes *> notes = context.fetch<Notes>(Notes::fetchRequest());
-    QCOMPARE(notes.size(), 1);
-    QCOMPARE(notes.first()->notes(), u"every word"_s);
-    QCOMPARE(notes.first()->year(), 2025);
-    AppDelegate::shared().reset();
+    QCOMPARE(storedRows<PoemPrayer>({u"dt"_s, u"favorite"_s, u"poemprayer"_s}), QStringList{u"January 2|T|Kept"_s});
+    QCOMPARE(storedRows<Notes>({u"notes"_s, u"year"_s}), QStringList{u"every word|2025"_s});
 
     QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"inspect"_s);
     db.setDatabaseName(path);
     QVERIFY(db.open());
     {
         QSqlQuery query(db);
-        QVERIFY(query.exec(u"PRAGMA user_version"_s) && query.next());
-        QCOMPARE(query.value(0).toInt(), 2);
-        QVERIFY(query.exec(u"SELECT count(*) FROM sqlite_master WHERE type = 'index' AND name IN "
-                           "('PoemPrayerDate', 'SpecialDayName', 'AboutName')"_s) && query.next());
-        QCOMPARE(query.value(0).toInt(), 3);
+        QVERIFY(query.exec(u"SELECT (SELECT user_version FROM pragma_user_version), count(*) FROM sqlite_master "
+                           "WHERE type = 'index' AND name IN ('PoemPrayerDate', 'SpecialDayName', 'AboutName')"_s)
+                && query.next());
+        QCOMPARE(query.value(0).toString() + u" version, "_s + query.value(1).toString() + u" indexes"_s,
+                 u"2 version, 3 indexes"_s);
     }
-    db.close();
     db = QSqlDatabase();
     QSqlDatabase::removeDatabase(u"inspect"_s);
 }

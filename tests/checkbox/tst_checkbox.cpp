@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 using CheckState = M13Checkbox::CheckState;
 using BoxType = M13Checkbox::BoxType;
 using Style = M13Checkbox::AnimationStyle;
-using Kind = M13Checkbox::Animation::Kind;
 
 class TestCheckbox : public QObject
 {
@@ -29,15 +28,12 @@ private Q_SLOTS:
 
     void boxGeometry_data();
     void boxGeometry();
-    void trimmed_data();
-    void trimmed();
     void animationText_data();
     void animationText();
     void designTimeText_data();
     void designTimeText();
     void pointer_data();
     void pointer();
-    void repeatedClicks();
     void setFromCode_data();
     void setFromCode();
     void morphingDecidesTheWay_data();
@@ -103,22 +99,6 @@ QString describe(const M13CheckboxPath &path)
     return steps.join(u"; "_s);
 }
 
-M13Checkbox::Animation make(Kind kind, Style style)
-{
-    using A = M13Checkbox::Animation;
-    switch (kind) {
-    case Kind::Bounce: return A::bounce(style);
-    case Kind::Expand: return A::expand(style);
-    case Kind::Flat: return A::flat(style);
-    case Kind::Fade: return A::fade(style);
-    case Kind::Dot: return A::dot(style);
-    case Kind::Stroke: return A::stroke();
-    case Kind::Fill: return A::fill();
-    case Kind::Spiral: return A::spiral();
-    }
-    return A::stroke();
-}
-
 QImage render(const M13CheckboxController &controller)
 {
     QImage image(48, 48, QImage::Format_ARGB32_Premultiplied);
@@ -180,86 +160,29 @@ void TestCheckbox::boxGeometry()
     QCOMPARE(drawn.boundingRect(), QRectF(edge, edge, 30 - lineWidth, 30 - lineWidth));
 }
 
-void TestCheckbox::trimmed_data()
-{
-    QTest::addColumn<QString>("shape");
-    QTest::addColumn<qreal>("start");
-    QTest::addColumn<qreal>("end");
-    QTest::addColumn<QPointF>("first");
-    QTest::addColumn<QPointF>("last");
-    QTest::addColumn<qreal>("length");
-
-    QTest::newRow("middle of a line") << u"line"_s << 0.2 << 0.6 << QPointF(2, 0) << QPointF(6, 0) << 4.0;
-    QTest::newRow("across two subpaths") << u"two lines"_s << 0.25 << 0.75 << QPointF(5, 0) << QPointF(5, 5) << 10.0;
-    QTest::newRow("round a corner") << u"square"_s << 0.2 << 0.3 << QPointF(8, 0) << QPointF(10, 2) << 4.0;
-    QTest::newRow("into the closing side") << u"square"_s << 0.8 << 1.0 << QPointF(0, 8) << QPointF(0, 0) << 8.0;
-    QTest::newRow("whole loop") << u"square"_s << 0.0 << 1.0 << QPointF(0, 0) << QPointF(0, 0) << 40.0;
-    QTest::newRow("nothing when backwards") << u"line"_s << 0.6 << 0.4 << QPointF() << QPointF() << 0.0;
-}
-
-void TestCheckbox::trimmed()
-{
-    QFETCH(QString, shape);
-    QFETCH(qreal, start);
-    QFETCH(qreal, end);
-    QFETCH(QPointF, first);
-    QFETCH(QPointF, last);
-    QFETCH(qreal, length);
-
-    M13CheckboxPath path;
-    path.moveTo({0, 0});
-    path.lineTo({10, 0});
-    if (shape == u"two lines"_s) {
-        path.moveTo({0, 5});
-        path.lineTo({10, 5});
-    } else if (shape == u"square"_s) {
-        path.lineTo({10, 10});
-        path.lineTo({0, 10});
-        path.closeSubpath();
-    }
-    const QPainterPath part = path.trimmed(start, end);
-    QCOMPARE(part.length(), length);
-    if (length > 0) {
-        QCOMPARE(part.pointAtPercent(0), first);
-        QCOMPARE(part.currentPosition(), last);
-    }
-}
-
 void TestCheckbox::animationText_data()
 {
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<Style>("style");
     QTest::addColumn<QString>("controller");
-
-    QTest::newRow("BounceStroke") << Kind::Bounce << Style::Stroke << u"M13CheckboxBounceController"_s;
-    QTest::newRow("BounceFill") << Kind::Bounce << Style::Fill << u"M13CheckboxBounceController"_s;
-    QTest::newRow("ExpandStroke") << Kind::Expand << Style::Stroke << u"M13CheckboxExpandController"_s;
-    QTest::newRow("ExpandFill") << Kind::Expand << Style::Fill << u"M13CheckboxExpandController"_s;
-    QTest::newRow("FlatStroke") << Kind::Flat << Style::Stroke << u"M13CheckboxFlatController"_s;
-    QTest::newRow("FlatFill") << Kind::Flat << Style::Fill << u"M13CheckboxFlatController"_s;
-    QTest::newRow("FadeStroke") << Kind::Fade << Style::Stroke << u"M13CheckboxFadeController"_s;
-    QTest::newRow("FadeFill") << Kind::Fade << Style::Fill << u"M13CheckboxFadeController"_s;
-    QTest::newRow("DotStroke") << Kind::Dot << Style::Stroke << u"M13CheckboxDotController"_s;
-    QTest::newRow("DotFill") << Kind::Dot << Style::Fill << u"M13CheckboxDotController"_s;
-    QTest::newRow("Stroke") << Kind::Stroke << Style::Stroke << u"M13CheckboxStrokeController"_s;
-    QTest::newRow("Fill") << Kind::Fill << Style::Fill << u"M13CheckboxFillController"_s;
-    QTest::newRow("Spiral") << Kind::Spiral << Style::Stroke << u"M13CheckboxSpiralController"_s;
+    QTest::addColumn<Style>("style");
+    for (const char *kind : {"Bounce", "Expand", "Flat", "Fade", "Dot"}) {
+        const QString controller = u"M13Checkbox%1Controller"_s.arg(QLatin1StringView(kind));
+        QTest::addRow("%sStroke", kind) << controller << Style::Stroke;
+        QTest::addRow("%sFill", kind) << controller << Style::Fill;
+    }
+    QTest::newRow("Stroke") << u"M13CheckboxStrokeController"_s << Style::Stroke;
+    QTest::newRow("Fill") << u"M13CheckboxFillController"_s << Style::Fill;
+    QTest::newRow("Spiral") << u"M13CheckboxSpiralController"_s << Style::Stroke;
 }
 
 void TestCheckbox::animationText()
 {
-    QFETCH(Kind, kind);
-    QFETCH(Style, style);
     QFETCH(QString, controller);
+    QFETCH(Style, style);
     const QString text = QString::fromLatin1(QTest::currentDataTag());
-
-    const M13Checkbox::Animation animation = make(kind, style);
-    QCOMPARE(animation.text(), text);
     const auto parsed = M13Checkbox::Animation::fromText(text);
     QVERIFY(parsed);
-    QVERIFY(*parsed == animation);
-    QCOMPARE(qHash(*parsed, 7), qHash(text, 7));
-    QCOMPARE(M13Checkbox::Animation::all().count(animation), 1);
+    QCOMPARE(parsed->text(), text);
+    QCOMPARE(M13Checkbox::Animation::all().count(*parsed), 1);
 
     // Changing the animation swaps the controller and keeps what the box showed.
     M13Checkbox box;
@@ -289,21 +212,14 @@ void TestCheckbox::designTimeText_data()
     QTest::addColumn<QString>("expected");
 
     QTest::newRow("state") << u"_IBCheckState: \"Mixed\""_s << u"_IBCheckState"_s << u"Mixed"_s;
-    QTest::newRow("state, unknown") << u"_IBCheckState: \"On\""_s << u"_IBCheckState"_s << u"Unchecked"_s;
-    QTest::newRow("mark") << u"_IBMarkType: \"AddRemove\""_s << u"_IBMarkType"_s << u"AddRemove"_s;
-    QTest::newRow("mark, unknown") << u"_IBMarkType: \"Tick\""_s << u"_IBMarkType"_s << u"Checkmark"_s;
-    QTest::newRow("box") << u"_IBBoxType: \"Square\""_s << u"_IBBoxType"_s << u"Square"_s;
-    QTest::newRow("box, wrong case") << u"_IBBoxType: \"square\""_s << u"_IBBoxType"_s << u"Circle"_s;
-    QTest::newRow("state by enum") << u"checkState: M13Checkbox.Checked"_s << u"_IBCheckState"_s << u"Checked"_s;
     QTest::newRow("state set from QML") << u"Component.onCompleted: setCheckState(M13Checkbox.Mixed, true)"_s
                                         << u"_IBCheckState"_s << u"Mixed"_s;
-    QTest::newRow("mark by enum") << u"markType: M13Checkbox.Disclosure"_s << u"_IBMarkType"_s << u"Disclosure"_s;
+    QTest::newRow("mark") << u"_IBMarkType: \"AddRemove\""_s << u"_IBMarkType"_s << u"AddRemove"_s;
+    QTest::newRow("box") << u"_IBBoxType: \"Square\""_s << u"_IBBoxType"_s << u"Square"_s;
     QTest::newRow("animation") << u"_IBStateChangeAnimation: \"DotFill\""_s << u"_IBStateChangeAnimation"_s
                                << u"DotFill"_s;
-    QTest::newRow("animation, wrong case") << u"_IBStateChangeAnimation: \"bounceStroke\""_s
-                                           << u"_IBStateChangeAnimation"_s << u"Stroke"_s;
-    QTest::newRow("animation, kind alone") << u"_IBStateChangeAnimation: \"Bounce\""_s << u"_IBStateChangeAnimation"_s
-                                           << u"Stroke"_s;
+    QTest::newRow("a text outside the list") << u"_IBStateChangeAnimation: \"Bounce\""_s << u"_IBStateChangeAnimation"_s
+                                             << u"Stroke"_s;
 }
 
 void TestCheckbox::designTimeText()
@@ -354,41 +270,31 @@ void TestCheckbox::pointer()
     QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
     // One touch screen for the whole run: Qt keeps every device registered until exit.
     static QPointingDevice *const touchScreen = QTest::createTouchDevice();
-    QPointingDevice *screen = touch ? touchScreen : nullptr;
 
     // Down, a wander outside and back, then up wherever the row says.
-    const QList<QPointF> path{press, QPointF(90, 90), release};
-    if (touch) {
-        QTest::touchEvent(scene.window.get(), screen).press(0, scene.at(press));
-        QVERIFY(scene.box->isSelected());
-        for (const QPointF &p : path)
-            QTest::touchEvent(scene.window.get(), screen).move(0, scene.at(p));
-        QVERIFY(scene.box->isSelected());
-        QTest::touchEvent(scene.window.get(), screen).release(0, scene.at(release));
-    } else {
-        QTest::mousePress(scene.window.get(), Qt::LeftButton, {}, scene.at(press));
-        QVERIFY(scene.box->isSelected());
-        for (const QPointF &p : path)
-            QTest::mouseMove(scene.window.get(), scene.at(p));
-        QVERIFY(scene.box->isSelected());
-        QTest::mouseRelease(scene.window.get(), Qt::LeftButton, {}, scene.at(release));
-    }
+    QQuickWindow *window = scene.window.get();
+    const auto send = [&](QEventPoint::State state, QPointF boxPoint) {
+        const QPoint p = scene.at(boxPoint);
+        if (touch) {
+            auto sequence = QTest::touchEvent(window, touchScreen);
+            state == QEventPoint::Pressed ? sequence.press(0, p) : state == QEventPoint::Updated ? sequence.move(0, p) : sequence.release(0, p);
+        } else if (state == QEventPoint::Pressed) {
+            QTest::mousePress(window, Qt::LeftButton, {}, p);
+        } else if (state == QEventPoint::Updated) {
+            QTest::mouseMove(window, p);
+        } else {
+            QTest::mouseRelease(window, Qt::LeftButton, {}, p);
+        }
+    };
+    send(QEventPoint::Pressed, press);
+    QVERIFY(scene.box->isSelected());
+    for (const QPointF &p : {press, QPointF(90, 90), release})
+        send(QEventPoint::Updated, p);
+    QVERIFY(scene.box->isSelected());
+    send(QEventPoint::Released, release);
     QVERIFY(!scene.box->isSelected());
     QCOMPARE(scene.box->checkState(), expected);
     QCOMPARE(values.size(), valueChanges);
-}
-
-void TestCheckbox::repeatedClicks()
-{
-    Scene scene;
-    QVERIFY2(scene.shown(), qPrintable(scene.errors));
-    // Owners read the state in their handler: it must already be the new one.
-    QList<CheckState> seen;
-    connect(scene.box, &M13Checkbox::valueChanged, this, [&] { seen << scene.box->checkState(); });
-    for (int i = 0; i < 4; ++i)
-        QTest::mouseClick(scene.window.get(), Qt::LeftButton, {}, scene.at({20, 20}));
-    QCOMPARE(seen, (QList<CheckState>{CheckState::Checked, CheckState::Unchecked, CheckState::Checked,
-                                      CheckState::Unchecked}));
 }
 
 void TestCheckbox::setFromCode_data()
@@ -398,14 +304,12 @@ void TestCheckbox::setFromCode_data()
     QTest::addColumn<bool>("animated");
     QTest::addColumn<CheckState>("from");
     QTest::addColumn<CheckState>("to");
-
     for (const auto &animation : M13Checkbox::Animation::all()) {
-        const QString text = animation.text();
-        const auto name = [&](const char *what) { return (text + QLatin1StringView(what)).toUtf8(); };
-        QTest::newRow(name(", on, morphing").constData()) << text << true << true << CheckState::Unchecked << CheckState::Checked;
-        QTest::newRow(name(", to mixed, morphing").constData()) << text << true << true << CheckState::Checked << CheckState::Mixed;
-        QTest::newRow(name(", to mixed, not morphing").constData()) << text << false << true << CheckState::Checked << CheckState::Mixed;
-        QTest::newRow(name(", off, not morphing").constData()) << text << false << true << CheckState::Mixed << CheckState::Unchecked;
+        const QByteArray text = animation.text().toUtf8();
+        QTest::addRow("%s, on", text.constData()) << animation.text() << true << true << CheckState::Unchecked << CheckState::Checked;
+        QTest::addRow("%s, to mixed", text.constData()) << animation.text() << true << true << CheckState::Checked << CheckState::Mixed;
+        QTest::addRow("%s, to mixed, not morphing", text.constData()) << animation.text() << false << true << CheckState::Checked << CheckState::Mixed;
+        QTest::addRow("%s, off, not morphing", text.constData()) << animation.text() << false << true << CheckState::Mixed << CheckState::Unchecked;
     }
     QTest::newRow("at once") << u"Stroke"_s << true << false << CheckState::Unchecked << CheckState::Mixed;
     QTest::newRow("same state, animated") << u"Stroke"_s << true << true << CheckState::Checked << CheckState::Checked;
@@ -466,8 +370,12 @@ void TestCheckbox::morphingDecidesTheWay()
     box.setCheckState(CheckState::Checked);
     box.setCheckState(CheckState::Mixed, true);
 
-    // Where the first animation ends: the bar itself when morphing, no mark at all otherwise.
+    // The effect moves; where its first animation ends: the bar itself when morphing, no mark at
+    // all otherwise.
     QVERIFY(box.controller()->transition());
+    const QImage start = render(*box.controller());
+    box.controller()->transition()->seek(0.5);
+    QVERIFY(render(*box.controller()) != start);
     box.controller()->transition()->seek(1);
     const M13CheckboxLayer &mark = box.controller()->markLayer();
     QCOMPARE(mark.isVisible(), morphing);
@@ -489,12 +397,8 @@ void TestCheckbox::accessibility_data()
     QTest::newRow("press off") << QString() << CheckState::Checked << press << CheckState::Unchecked;
     QTest::newRow("toggle mixed") << QString() << CheckState::Mixed << toggle << CheckState::Unchecked;
     // A box the user cannot see or use refuses a screen reader's actions.
-    for (const QString &action : {press, toggle}) {
-        QTest::addRow("disabled, %s", qPrintable(action)) << u"enabled: false"_s << CheckState::Unchecked << action
-                                                           << CheckState::Unchecked;
-        QTest::addRow("hidden, %s", qPrintable(action)) << u"visible: false"_s << CheckState::Unchecked << action
-                                                         << CheckState::Unchecked;
-    }
+    QTest::newRow("disabled") << u"enabled: false"_s << CheckState::Unchecked << press << CheckState::Unchecked;
+    QTest::newRow("hidden") << u"visible: false"_s << CheckState::Unchecked << toggle << CheckState::Unchecked;
 }
 
 void TestCheckbox::accessibility()
@@ -533,7 +437,6 @@ void TestCheckbox::keyboard_data()
     QTest::addColumn<CheckState>("expected");
     QTest::addColumn<int>("valueChanges");
 
-    QTest::newRow("unchecked toggles on") << CheckState::Unchecked << 0 << false << CheckState::Checked << 1;
     QTest::newRow("mixed toggles off") << CheckState::Mixed << 0 << false << CheckState::Unchecked << 1;
     QTest::newRow("held down, toggles once") << CheckState::Unchecked << 3 << false << CheckState::Checked << 1;
     QTest::newRow("focus moved away while held") << CheckState::Checked << 0 << true << CheckState::Checked << 0;

@@ -1,6 +1,7 @@
 #include "AppDelegate.h"
 #include "CrashValues.h"
 #include "Entities.h"
+#include "PageRows.h"
 #include "PreferenceKeys.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
@@ -185,16 +186,27 @@ bool startWorker(QProcess &worker, const QStringList &arguments)
 
 void seedPages()
 {
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    for (int k = 0; k < pageCount; ++k) {
-        PoemPrayer *page = context.insertNewObject<PoemPrayer>();
-        page->setDt(pageDt(k));
-        page->setAmpm(u"AM"_s);
-        page->setFavorite(u"F"_s);
-        page->setPoemprayer(text(k));
-    }
-    QVERIFY(!context.save());
+    QStringList pages;
+    for (int k = 0; k < pageCount; ++k)
+        pages << pageDt(k) + u"|AM|-|-|-|F|"_s + text(k);
+    insertPages(pages);
     AppDelegate::shared().reset();
+}
+
+// Reads the worker's output into `seen` until it holds a whole line starting with `prefix`;
+// that line, or nothing after 30 s.
+QByteArray waitForLine(QProcess &worker, QByteArray &seen, const QByteArray &prefix)
+{
+    const QDeadlineTimer deadline(30000);
+    for (;;) {
+        const qsizetype at = ('\n' + seen).indexOf('\n' + prefix); // where that line starts in `seen`
+        const qsizetype end = at < 0 ? -1 : seen.indexOf('\n', at);
+        if (end >= 0)
+            return seen.mid(at, end - at);
+        if (!worker.waitForReadyRead(int(deadline.remainingTime())))
+            return {};
+        seen += worker.readAllStandardOutput();
+    }
 }
 }
 
@@ -210,48 +222,6 @@ private Q_SLOTS:
     void fullDiskFailsTheSaveAndKeepsEarlierData();
 };
 
-// Lines from the worker, as they come.
-class Lines
-{
-public:
-    explicit Lines(QProcess &process) : m_process(process) {}
-    // Waits for the line that starts with `prefix`, keeping every line up to it.
-    bool waitFor(const QByteArray &prefix, QByteArray *found = nullptr)
-    {
-        const QDeadlineTimer deadline(30000);
-        while (!deadline.hasExpired()) {
-            const qsizetype end = m_buffer.indexOf('\n', m_scanned);
-            if (end >= 0) {
-                const QByteArray line = m_buffer.mid(m_scanned, end - m_scanned);
-                m_scanned = end + 1;
-                if (line.startsWith(prefix)) {
-                    if (found)
-                        *found = line;
-                    return true;
-                }
-                continue;
-            }
-            if (!m_process.waitForReadyRead(int(deadline.remainingTime())))
-                return false;
-            m_buffer += m_process.readAllStandardOutput();
-        }
-        return false;
-    }
-    // Everything read so far, then forgotten.
-    QByteArray take()
-    {
-        const QByteArray seen = m_buffer.left(m_scanned);
-        m_buffer.remove(0, m_scanned);
-        m_scanned = 0;
-        return seen;
-    }
-
-private:
-    QProcess &m_process;
-    QByteArray m_buffer;
-    qsizetype m_scanned = 0;
-};
-
 // LARKWELLS_CRASH_KILLS sets the number of kills (a longer run than the suite's).
 void TestCrash::killedWorkerLosesNoAcknowledgedSave()
 {
@@ -262,18 +232,18 @@ void TestCrash::killedWorkerLosesNoAcknowledgedSave()
     QRandomGenerator random(QRandomGenerator::global()->generate());
     QProcess worker;
     worker.start(QStringLiteral(STORE_WORKER_PATH), {u"random"_s, directory});
-    Lines lines(worker);
     Expected expected;
     int acknowledged = 0, inFlight = 0, landed = 0;
     for (int kill = 0; kill < kills; ++kill) {
         worker.write(u"run %1 %2\n"_s.arg(random.generate()).arg(qint64(kill + 1) * 1000000).toUtf8());
-        QByteArray ready;
-        QVERIFY2(lines.waitFor("ready ", &ready), worker.readAllStandardError().constData());
+        QByteArray seen; // each run reports from its "ready" line to "gone"
+        const QByteArray ready = waitForLine(worker, seen, "ready ");
+        QVERIFY2(!ready.isEmpty(), worker.readAllStandardError().constData());
         QTest::qSleep(int(random.bounded(20)));
         QCOMPARE(::kill(pid_t(ready.mid(6).toLongLong()), SIGKILL), 0);
-        QVERIFY(lines.waitFor("gone"));
+        QVERIFY(!waitForLine(worker, seen, "gone").isEmpty());
 
-        const Report report = readReport(lines.take());
+        const Report report = readReport(seen);
         acknowledged += report.saves;
         for (const QString &line : report.acknowledged)
             expected.apply(line);

@@ -116,15 +116,12 @@ void TestBook::everyDayOfALeapYearInOrder()
         const QString ampm = page % 2 ? u"AM"_s : u"PM"_s;
         const auto parsed = PageFile::assignments(PageFile::pieces(lines[page - 1]), PageFile::columns);
         QVERIFY2(std::holds_alternative<QList<PageFile::Assignment>>(parsed), qPrintable(lines[page - 1].left(60)));
-        const auto &values = std::get<QList<PageFile::Assignment>>(parsed);
-        QCOMPARE(values.size(), 7);
-        const QString where = u"page %1"_s.arg(page);
-        QVERIFY2(lines[page - 1].count(u'^') == 6, qPrintable(where));
-        QCOMPARE(values[0].value.toString(), english.toString(date, u"MMMM d"_s));
-        QVERIFY2(values[1].value.toString() == ampm, qPrintable(where));
-        QVERIFY2(values[2].value.toInt() == date.month() && values[3].value.toInt() == date.day(), qPrintable(where));
-        QVERIFY2(values[4].value.toInt() == page, qPrintable(where));
-        QVERIFY2(values[5].value.toString() == u"F"_s, qPrintable(where));
+        QStringList fields;
+        for (const PageFile::Assignment &assignment : std::get<QList<PageFile::Assignment>>(parsed))
+            fields.append(assignment.value.toString());
+        QCOMPARE(fields.mid(0, 6).join(u'|'), u"%1|%2|%3|%4|%5|F"_s.arg(english.toString(date, u"MMMM d"_s), ampm)
+                                                 .arg(date.month()).arg(date.day()).arg(page));
+        QCOMPARE(fields.size(), 7);
         if (ampm == u"PM"_s)
             date = date.addDays(1);
     }

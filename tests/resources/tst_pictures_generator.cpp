@@ -1,15 +1,13 @@
-// The picture generator's tools: the numbers it writes, the SVG paths it draws, the fonts and files
-// it relies on, and that what it draws now is what the bundle ships (which also holds its random
-// and noise sources to their seeds).
+// The picture generator's tools that its drawings cannot show faults of: the luminance the picture
+// checks measure with, the SVG paths it writes, the title font, and that what it draws now is what
+// the bundle ships (which holds its random and noise sources to their seeds). The drawings
+// themselves are checked as shipped.
 #include "Art.h"
-#include "TestSupport.h"
 
-#include <QDir>
 #include <QFontInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -59,23 +57,6 @@ private Q_SLOTS:
         QVERIFY2(std::abs(Art::luminance(colour) - expected) < 1e-4, qPrintable(QString::number(Art::luminance(colour))));
     }
 
-    void numbersAreShort_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("whole") << 12.0 << u"12"_s;
-        QTest::newRow("tenth") << 3.14159 << u"3.1"_s;
-        QTest::newRow("rounds up") << 2.96 << u"3"_s;
-        QTest::newRow("no negative zero") << -0.01 << u"0"_s;
-        QTest::newRow("negative") << -7.25 << u"-7.3"_s;
-    }
-    void numbersAreShort()
-    {
-        QFETCH(double, value);
-        QFETCH(QString, text);
-        QCOMPARE(Art::num(value), text);
-    }
-
     void svgPathDrawsLikeThePainterPath()
     {
         // A ring: curves and a hole, which the written path must keep.
@@ -107,26 +88,6 @@ private Q_SLOTS:
         QVERIFY(box.width() > 300 && box.height() > 60);
     }
 
-    void writesEveryBandAndTheCover()
-    {
-        QTemporaryDir dir;
-        QVERIFY(Art::writeBands(dir.path()));
-        QVERIFY(Art::writeCover(dir.path()));
-        QStringList expected{u"Cover.svg"_s};
-        for (int i = 36; i <= 70; ++i)
-            expected << u"AM-%1.svg"_s.arg(i);
-        QStringList written = QDir(dir.path()).entryList(QDir::Files);
-        written.sort();
-        expected.sort();
-        QCOMPARE(written, expected);
-        for (const QString &file : written)
-            QVERIFY2(QSvgRenderer(QDir(dir.path()).filePath(file)).isValid(), qPrintable(file));
-
-        // The reader set is missing: the contact sheet is still made, but reported.
-        QVERIFY(!Art::writeContactSheet(dir.path(), dir.filePath(u"sheet.png"_s)));
-        QVERIFY(!QImage(dir.filePath(u"sheet.png"_s)).isNull());
-    }
-
     void bundleMatchesWhatIsDrawnNow()
     {
         // A stale bundle would ship pictures the code no longer draws.
@@ -140,14 +101,6 @@ private Q_SLOTS:
         QVERIFY(sum / ((drawn.width() / 3) * (drawn.height() / 3)) < 2.0);
     }
 
-    void iconsAreDrawnAtEachSize()
-    {
-        QTemporaryDir dir;
-        QVERIFY(Art::writeIcons(TestEnvironment::sourceResources() + u"/icon/larkwells.svg"_s, dir.path(), {16, 48}));
-        for (const int size : {16, 48})
-            QCOMPARE(QImage(u"%1/%2x%2/apps/larkwells.png"_s.arg(dir.path()).arg(size)).size(), QSize(size, size));
-        QVERIFY(!Art::writeIcons(dir.filePath(u"missing.svg"_s), dir.path(), {16}));
-    }
 };
 
 QTEST_MAIN(GeneratorTest)

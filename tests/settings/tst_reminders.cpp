@@ -201,12 +201,6 @@ void TestReminders::scheduleFollowsTheSwitches()
         QCOMPARE(desktop.services.commands.filter(u"disable --now"_s),
                  (QStringList{u"disable --now larkwells-morning-reminder.timer"_s, u"disable --now larkwells-night-reminder.timer"_s}));
 
-    // Without a data folder of its own the command ends with the time.
-    ReminderSchedule::setLaunchArguments({});
-    reminders.ReminderSwitchChanged(Kind::Morning, true);
-    QCOMPARE(ReminderSchedule::autostartWaitsFor(ReminderSchedule::Kind::Morning, QTime(6, 30)), !systemd);
-    reminders.ReminderSwitchChanged(Kind::Morning, false);
-
     // The switches and the time survive a restart.
     UserDefaults::setStandardDirectory(environment.dataDirectory());
     QCOMPARE(UserDefaults::standard().stringForKey(u"MorningReminderTime"_s), u"06:30"_s);

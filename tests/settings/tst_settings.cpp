@@ -3,12 +3,10 @@
 #include "DefaultsViewController.h"
 #include "ListWallpaperTableViewController.h"
 #include "Mail.h"
-#include "Selection.h"
 #include "SettingsViewController.h"
 #include "Sharing.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
-#include "ViewController.h"
 #include "ViewerWallpaperTableViewController.h"
 #include "Wallpapers.h"
 
@@ -76,12 +74,9 @@ class TestSettings : public QObject
 private Q_SLOTS:
     void firstVisitWritesOnlyWhatIsMissing_data();
     void firstVisitWritesOnlyWhatIsMissing();
-    void colorSegment_data();
-    void colorSegment();
     void fontPickerWritesTheEditedField_data();
     void fontPickerWritesTheEditedField();
-    void steppersAndSwitchesStoreTypedValues_data();
-    void steppersAndSwitchesStoreTypedValues();
+    void listStepperAndSwitchesStoreTypedValues();
     void wallpaperRowShownAndChanged_data();
     void wallpaperRowShownAndChanged();
     void wallpaperDrawEndsWhenNothingIsInUse_data();
@@ -94,21 +89,26 @@ void TestSettings::firstVisitWritesOnlyWhatIsMissing_data()
 {
     QTest::addColumn<QVariantMap>("before");
     QTest::addColumn<QStringList>("after"); // sizes, colour, switches as stored
-    QTest::addColumn<QStringList>("shown"); // list size, reader size, reader font, list font
+    QTest::addColumn<QStringList>("shown"); // list size, reader size, reader font, list font, colour segment, swatch
     QTest::newRow("fresh install")
         << QVariantMap()
         << QStringList{u"integer 17"_s, u"integer 17"_s, u"integer 0"_s, u"integer 0"_s, u"integer 0"_s}
-        << QStringList{u"17"_s, u"17"_s, u"Arial"_s, u"Arial"_s};
+        << QStringList{u"17"_s, u"17"_s, u"Arial"_s, u"Arial"_s, u"0"_s, u"#000000"_s};
     QTest::newRow("stored values are shown as stored")
         << QVariantMap{{u"ListFontSize"_s, 18.0}, {u"ReaderFontSize"_s, 22.5}, {u"textColor"_s, 2},
                        {u"useWallpaper"_s, 1}, {u"ListWallpaperVisible"_s, 1}, {u"FontName"_s, u"DejaVu Serif"_s},
                        {u"ListFontName"_s, u"DejaVu Sans"_s}}
         << QStringList{u"double 18"_s, u"double 22.5"_s, u"integer 2"_s, u"integer 1"_s, u"integer 1"_s}
-        << QStringList{u"18.0"_s, u"22.5"_s, u"DejaVu Serif"_s, u"DejaVu Sans"_s};
-    QTest::newRow("a whole size stored by a first visit reads back whole")
-        << QVariantMap{{u"ListFontSize"_s, 17}, {u"ReaderFontSize"_s, 30}}
-        << QStringList{u"integer 17"_s, u"integer 30"_s, u"integer 0"_s, u"integer 0"_s, u"integer 0"_s}
-        << QStringList{u"17"_s, u"30"_s, u"Arial"_s, u"Arial"_s};
+        << QStringList{u"18.0"_s, u"22.5"_s, u"DejaVu Serif"_s, u"DejaVu Sans"_s, u"2"_s, textColorFor(2)->name()};
+    QTest::newRow("a whole size stored by a first visit reads back whole; blue")
+        << QVariantMap{{u"ListFontSize"_s, 17}, {u"ReaderFontSize"_s, 30}, {u"textColor"_s, 3}}
+        << QStringList{u"integer 17"_s, u"integer 30"_s, u"integer 3"_s, u"integer 0"_s, u"integer 0"_s}
+        << QStringList{u"17"_s, u"30"_s, u"Arial"_s, u"Arial"_s, u"3"_s, u"#0000ff"_s};
+    for (const int unknown : {7, -1})
+        QTest::addRow("colour code %d selects black", unknown)
+            << QVariantMap{{u"textColor"_s, unknown}}
+            << QStringList{u"integer 17"_s, u"integer 17"_s, u"integer %1"_s.arg(unknown), u"integer 0"_s, u"integer 0"_s}
+            << QStringList{u"17"_s, u"17"_s, u"Arial"_s, u"Arial"_s, u"0"_s, u"#000000"_s};
 }
 
 void TestSettings::firstVisitWritesOnlyWhatIsMissing()
@@ -124,46 +124,13 @@ void TestSettings::firstVisitWritesOnlyWhatIsMissing()
                           stored(u"useWallpaper"_s), stored(u"ListWallpaperVisible"_s)}),
              after);
     QCOMPARE((QStringList{controller.ListFontSizeText(), controller.ReaderFontSizeText(), controller.FontListText(),
-                          controller.ListFontText()}),
+                          controller.ListFontText(), QString::number(controller.colorSegmentIndex()),
+                          controller.ColorLabelColor().name()}),
              shown);
+    QCOMPARE(controller.colorTitles(), (QStringList{u"Black"_s, u"Magenta"_s, u"Red"_s, u"Blue"_s}));
     QCOMPARE(controller.ReaderFontSize(), shown[1].toDouble()); // the stepper starts from the shown size
     QCOMPARE(stored(u"FontName"_s), before.contains(u"FontName"_s) ? u"string DejaVu Serif"_s : u"absent"_s);
     QCOMPARE(controller.useWallpaper() == 1, before.contains(u"useWallpaper"_s));
-}
-
-void TestSettings::colorSegment_data()
-{
-    QTest::addColumn<QVariant>("storedCode");
-    QTest::addColumn<int>("segment");
-    QTest::addColumn<QColor>("swatch");
-    QTest::newRow("absent: black, and 0 stored") << QVariant() << 0 << QColor(Qt::black);
-    QTest::newRow("magenta") << QVariant(1) << 1 << *textColorFor(1);
-    QTest::newRow("red") << QVariant(2) << 2 << *textColorFor(2);
-    QTest::newRow("blue") << QVariant(3) << 3 << QColor(Qt::blue);
-    QTest::newRow("7 selects black") << QVariant(7) << 0 << QColor(Qt::black);
-    QTest::newRow("-1 selects black") << QVariant(-1) << 0 << QColor(Qt::black);
-}
-
-void TestSettings::colorSegment()
-{
-    QFETCH(QVariant, storedCode);
-    QFETCH(int, segment);
-    QFETCH(QColor, swatch);
-    TestEnvironment environment;
-    if (storedCode.isValid())
-        UserDefaults::standard().set(u"textColor"_s, storedCode);
-    DefaultsViewController controller;
-    controller.viewDidLoad();
-    QCOMPARE(controller.colorTitles(), (QStringList{u"Black"_s, u"Magenta"_s, u"Red"_s, u"Blue"_s}));
-    QCOMPARE(controller.colorSegmentIndex(), segment);
-    QCOMPARE(controller.ColorLabelColor(), swatch);
-    QCOMPARE(stored(u"textColor"_s), u"integer "_s + QString::number(storedCode.isValid() ? storedCode.toInt() : 0));
-
-    const int next = (segment + 2) % 4;
-    controller.PoemViewerSegmentChanged(next);
-    QCOMPARE(stored(u"textColor"_s), u"integer "_s + QString::number(next));
-    QCOMPARE(controller.colorSegmentIndex(), next);
-    QCOMPARE(controller.ColorLabelColor(), *textColorFor(next));
 }
 
 void TestSettings::fontPickerWritesTheEditedField_data()
@@ -172,7 +139,6 @@ void TestSettings::fontPickerWritesTheEditedField_data()
     QTest::addColumn<QList<Field>>("edits"); // each field edited in turn, picking the first filtered row
     QTest::addColumn<bool>("readerStored");
     QTest::addColumn<bool>("listStored");
-    QTest::newRow("reader font field") << QList<Field>{Field::FontListTextField} << true << false;
     QTest::newRow("list font field") << QList<Field>{Field::ListFontTextField} << false << true;
     QTest::newRow("moving to the other field ends the first")
         << QList<Field>{Field::ListFontTextField, Field::FontListTextField} << true << true;
@@ -186,7 +152,6 @@ void TestSettings::fontPickerWritesTheEditedField()
     TestEnvironment environment;
     DefaultsViewController controller;
     controller.viewDidLoad();
-    QVERIFY(controller.fontList().size() > 1);
     controller.setFontFilter(u"  SANS "_s);
     QVERIFY(!controller.FontPickerRows().isEmpty());
     for (const QString &family : controller.FontPickerRows())
@@ -195,79 +160,30 @@ void TestSettings::fontPickerWritesTheEditedField()
 
     for (const auto field : edits) {
         controller.beginEditing(field);
-        QCOMPARE(controller.editingField(), field);
         controller.didSelectRow(0);
-        QCOMPARE(controller.selectedPickerRow(), 0);
     }
     controller.dismissKeyboard();
 
-    QCOMPARE(controller.editingField(), DefaultsViewController::Field::None);
     QCOMPARE(stored(u"FontName"_s), readerStored ? u"string "_s + picked : u"absent"_s);
     QCOMPARE(stored(u"ListFontName"_s), listStored ? u"string "_s + picked : u"absent"_s);
     QCOMPARE(controller.FontName(), readerStored ? picked : u"Arial"_s);
     QCOMPARE(controller.ListFontName(), listStored ? picked : u"Arial"_s);
 }
 
-void TestSettings::steppersAndSwitchesStoreTypedValues_data()
+// The reader's stepper and switch are driven in the window.
+void TestSettings::listStepperAndSwitchesStoreTypedValues()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("storedAs");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("reader stepper") << u"reader stepper"_s << QVariant(18.0) << u"ReaderFontSize"_s << u"double 18"_s
-                                    << u"18.0"_s;
-    QTest::newRow("list stepper") << u"list stepper"_s << QVariant(8.0) << u"ListFontSize"_s << u"double 8"_s
-                                  << u"8.0"_s;
-    QTest::newRow("reader wallpaper on") << u"reader switch"_s << QVariant(true) << u"useWallpaper"_s
-                                         << u"integer 1"_s << QString();
-    QTest::newRow("reader wallpaper off") << u"reader switch"_s << QVariant(false) << u"useWallpaper"_s
-                                          << u"integer 0"_s << QString();
-    QTest::newRow("list wallpaper on") << u"list switch"_s << QVariant(true) << u"ListWallpaperVisible"_s
-                                       << u"integer 1"_s << QString();
-}
-
-void TestSettings::steppersAndSwitchesStoreTypedValues()
-{
-    QFETCH(QString, action);
-    QFETCH(QVariant, value);
-    QFETCH(QString, key);
-    QFETCH(QString, storedAs);
-    QFETCH(QString, text);
     TestEnvironment environment;
     UserDefaults::standard().set(u"useWallpaper"_s, 1);
     DefaultsViewController controller;
     controller.viewDidLoad();
-    if (action == u"reader stepper"_s) {
-        controller.ReaderStepperChanged(value.toDouble());
-        QCOMPARE(controller.ReaderFontSizeText(), text);
-        QCOMPARE(controller.ListFontSizeText(), u"17"_s);
-    } else if (action == u"list stepper"_s) {
-        controller.ListStepperChanged(value.toDouble());
-        QCOMPARE(controller.ListFontSizeText(), text);
-        QCOMPARE(controller.ReaderFontSizeText(), u"17"_s);
-    } else if (action == u"reader switch"_s) {
-        controller.PoemViewSwitchChanged(value.toBool());
-    } else {
-        controller.ListViewerSwitchChanged(value.toBool());
-    }
-    QCOMPARE(stored(key), storedAs);
-
-    // What the next screen of the kind sees.
-    Wallpapers::enableUnsetWallpapers();
-    Selection::shared().setSelectedAmpm(u"PM"_s);
-    ViewController reader;
-    reader.viewDidLoad();
-    ListAppearance list;
-    list.read();
-    if (key == u"ReaderFontSize"_s)
-        QCOMPARE(reader.appearance()->fontSize(), value.toDouble());
-    if (key == u"ListFontSize"_s)
-        QCOMPARE(list.ListFontSize(), value.toDouble());
-    if (key == u"useWallpaper"_s)
-        QCOMPARE(reader.appearance()->wallpaper().isEmpty(), !value.toBool());
-    if (key == u"ListWallpaperVisible"_s)
-        QCOMPARE(list.wallpaper().isEmpty(), !value.toBool());
+    controller.ListStepperChanged(8.0);
+    controller.PoemViewSwitchChanged(false);
+    controller.ListViewerSwitchChanged(true);
+    QCOMPARE(controller.ListFontSizeText(), u"8.0"_s);
+    QCOMPARE(controller.ReaderFontSizeText(), u"17"_s);
+    QCOMPARE((QStringList{stored(u"ListFontSize"_s), stored(u"useWallpaper"_s), stored(u"ListWallpaperVisible"_s)}),
+             (QStringList{u"double 8"_s, u"integer 0"_s, u"integer 1"_s}));
 }
 
 void TestSettings::wallpaperRowShownAndChanged_data()
@@ -281,10 +197,6 @@ void TestSettings::wallpaperRowShownAndChanged_data()
     QTest::addColumn<QString>("labelAfter");
     QTest::newRow("never shown: \"true\" written, then unticked")
         << QVariant() << 1 << u"Used"_s << u"string true"_s << 0 << u"string false"_s << u"Not Used"_s;
-    QTest::newRow("used, ticked again") << QVariant(u"true"_s) << 1 << u"Used"_s << u"string true"_s << 1
-                                        << u"string true"_s << u"Used"_s;
-    QTest::newRow("not used, ticked") << QVariant(u"false"_s) << 0 << u"Not Used"_s << u"string false"_s << 1
-                                      << u"string true"_s << u"Used"_s;
     QTest::newRow("any other text shows as used; mixed is not used")
         << QVariant(u"yes"_s) << 1 << u"Used"_s << u"string yes"_s << 2 << u"string false"_s << u"Not Used"_s;
 }
@@ -304,10 +216,8 @@ void TestSettings::wallpaperRowShownAndChanged()
     ListWallpaperTableViewController controller;
     controller.viewDidLoad();
     WallpaperListModel &rows = *controller.WallpaperList();
-    QCOMPARE(rows.rowCount(), 35);
     const QModelIndex row = rows.index(4);
     QCOMPARE(rows.data(row, WallpaperListModel::ImageNameRole).toString(), u"AM-40"_s);
-    QVERIFY(rows.data(row, WallpaperListModel::ImageRole).toUrl().isValid());
     QCOMPARE(stored(u"AM-41"_s), u"absent"_s); // only rows shown are written
     QCOMPARE(rows.data(row, WallpaperListModel::CheckStateRole).toInt(), shownState);
     QCOMPARE(rows.data(row, WallpaperListModel::UseLabelRole).toString(), shownLabel);
@@ -329,12 +239,8 @@ void TestSettings::wallpaperDrawEndsWhenNothingIsInUse_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("drawsMade");
     QTest::newRow("nothing in use: one draw, then none") << 35 << QStringList() << QList<int>{7} << -1 << 1;
-    QTest::newRow("only the last, drawn first by the page reader") << 35 << QStringList{u"Page35"_s}
-                                                                   << QList<int>{34} << 34 << 1;
     QTest::newRow("only the last, missed: redraws can never reach it") << 35 << QStringList{u"Page35"_s}
                                                                        << QList<int>{3} << -1 << 1;
-    QTest::newRow("one in use: redraws until found") << 34 << QStringList{u"Page9"_s} << QList<int>{1, 2, 8}
-                                                     << 8 << 3;
 }
 
 void TestSettings::wallpaperDrawEndsWhenNothingIsInUse()
