@@ -1,0 +1,238 @@
+#!/usr/bin/python3
+"""Drives the running application over the accessibility bus, as a screen reader does.
+
+Presses every cover menu button through its action interface with the menu closed and open:
+hidden buttons must be absent or refuse, shown ones open their screen, and the application
+must stay alive. Then marks a favourite on a list row and presses a segment of the page list,
+checking that the box reports its state and that the list changed.
+
+Run inside dbus-run-session and xvfb-run: atspi_cover.py LARKWELLS_BINARY
+Exits 77 (skipped) only when the accessibility bus cannot be reached at all.
+"""
+import os
+import subprocess
+import sys
+import tempfile
+import time
+
+SKIPPED = 77
+MENU = ["Today", "Good Morning", "Good Night", "Favorites", "Special Days", "Search", "Notes",
+        "About", "User Defaults", "Rate & Share", "Import & Export", "Update Files"]
+LISTS = {"Today", "Good Morning", "Good Night", "Favorites"}
+
+
+def fail(message):
+    print("FAIL: " + message)
+    sys.exit(1)
+
+
+def wait_for(predicate, what, seconds=20):
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        value = predicate()
+        if value:
+            return value
+        time.sleep(0.2)
+    fail("timed out waiting for " + what)
+
+
+def walk(node, depth=0):
+    """Every accessible below node, skipping nodes that vanish while we look."""
+    if node is None or depth > 40:
+        return
+    yield node
+    try:
+        children = [node.getChildAtIndex(i) for i in range(node.childCount)]
+    except Exception:
+        return
+    for child in children:
+        yield from walk(child, depth + 1)
+
+
+def named(app, name, role):
+    found = []
+    for node in walk(app):
+        try:
+            if node.name == name and node.getRoleName() == role:
+                found.append(node)
+        except Exception:
+            pass
+    return found
+
+
+def shown(node):
+    import pyatspi
+    states = node.getState()
+    return states.contains(pyatspi.STATE_SHOWING) and states.contains(pyatspi.STATE_ENABLED)
+
+
+def press(node):
+    action = node.queryAction()
+    for i in range(action.nActions):
+        if action.getName(i).lower() == "press":
+            return action.doAction(i)
+    return False
+
+
+class Application:
+    def __init__(self, binary):
+        self.data = tempfile.TemporaryDirectory()
+        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
+        self.process = subprocess.Popen([binary, "--data-dir", self.data.name], env=environment)
+
+    def alive(self):
+        return self.process.poll() is None
+
+    def check_alive(self, after):
+        time.sleep(0.5)
+        if not self.alive():
+            fail("the application ended (status %s) after %s" % (self.process.returncode, after))
+
+    def stop(self):
+        if self.alive():
+            self.process.terminate()
+            try:
+                self.process.wait(10)
+            except subprocess.TimeoutExpired:  # never leave a window behind
+                self.process.kill()
+                self.process.wait()
+
+
+def find_application(registry, process):
+    def search():
+        for app in registry.getDesktop(0):
+            try:
+                if app is not None and app.get_process_id() == process.pid:
+                    return app
+            except Exception:
+                pass
+        return None
+    return wait_for(search, "the application on the accessibility bus")
+
+
+def on_list_screen(app):
+    return any(shown(node) for node in named(app, "Back", "push button"))
+
+
+def go_back(app, application):
+    back = [node for node in named(app, "Back", "push button") if shown(node)]
+    press(back[0])
+    wait_for(lambda: not on_list_screen(app), "the cover after Back")
+    application.check_alive("Back")
+
+
+def open_menu(app, application):
+    menu = named(app, "Menu", "push button")
+    if not menu:
+        return  # already open ("Close menu")
+    press(menu[0])
+    wait_for(lambda: any(shown(n) for n in named(app, "Today", "push button")), "the open menu")
+    time.sleep(0.5)  # the slide
+    application.check_alive("opening the menu")
+
+
+def close_menu(app, application):
+    press(named(app, "Close menu", "push button")[0])
+    wait_for(lambda: not any(shown(n) for n in named(app, "Today", "push button")), "the closed menu")
+    time.sleep(0.5)  # the slide
+    application.check_alive("closing the menu")
+
+
+def press_every_menu_button(app, application, menu_open):
+    opened = 0
+    for title in MENU:
+        for node in named(app, title, "push button"):
+            visible = shown(node)
+            if not menu_open or title == "Import & Export":
+                if visible:
+                    fail("%r is listed as shown and enabled with the menu %s"
+                         % (title, "open" if menu_open else "closed"))
+            press(node)
+            application.check_alive("pressing %r with the menu %s" % (title, "open" if menu_open else "closed"))
+            time.sleep(0.5)
+            if on_list_screen(app):
+                if not (menu_open and visible):
+                    fail("pressing the hidden or disabled %r opened a screen" % title)
+                opened += 1
+                go_back(app, application)
+                open_menu(app, application)
+    return opened
+
+
+def row_names(app):
+    names = set()
+    for node in walk(app):
+        try:
+            if node.getRoleName() == "list item":
+                names.add(node.name)
+        except Exception:
+            pass
+    return names
+
+
+def mark_a_favorite(app, application):
+    """The row's favourite box is a named check box whose press marks the page."""
+    import pyatspi
+    box = wait_for(lambda: named(app, "Favorite", "check box"), "a row's favourite box")[0]
+    if box.getState().contains(pyatspi.STATE_CHECKED):
+        fail("a new page is already a favourite")
+    press(box)
+    application.check_alive("pressing a favourite box")
+    wait_for(lambda: box.getState().contains(pyatspi.STATE_CHECKED), "the favourite box checked")
+
+
+def press_a_segment(app, application):
+    open_menu(app, application)
+    press(named(app, "Good Morning", "push button")[0])
+    wait_for(lambda: on_list_screen(app), "the page list")
+    time.sleep(1)
+    mark_a_favorite(app, application)
+    before = row_names(app)
+    tab = wait_for(lambda: named(app, "Today", "page tab"), "the Today segment")[0]
+    press(tab)
+    application.check_alive("pressing a segment")
+    import pyatspi
+    wait_for(lambda: tab.getState().contains(pyatspi.STATE_SELECTED), "the pressed segment selected")
+    wait_for(lambda: row_names(app) != before, "the list to change after pressing a segment")
+    selected = [t for t in walk(app) if t.getRoleName() == "page tab"
+                and t.getState().contains(pyatspi.STATE_SELECTED)]
+    if len(selected) != 1:
+        fail("%d segments selected after a press" % len(selected))
+
+
+def main():
+    if len(sys.argv) != 2:
+        print(__doc__)
+        return 2
+    try:
+        import pyatspi
+        registry = pyatspi.Registry
+        registry.getDesktop(0).childCount
+    except Exception as error:  # no bus, no registry: nothing here can be tested
+        print("SKIPPED: the accessibility bus cannot be reached (%s)" % error)
+        return SKIPPED
+    application = Application(sys.argv[1])
+    try:
+        app = find_application(registry, application.process)
+        ok = wait_for(lambda: named(app, "Ok", "push button"), "the first-launch advice")
+        press(ok[0])
+        wait_for(lambda: named(app, "Menu", "push button"), "the cover")
+        time.sleep(0.5)
+        # The menu is made on its first opening: opened and closed, its buttons are all there.
+        open_menu(app, application)
+        close_menu(app, application)
+        if press_every_menu_button(app, application, False):
+            fail("a button of the closed menu opened a screen")
+        open_menu(app, application)
+        opened = press_every_menu_button(app, application, True)
+        if opened < 4:
+            fail("only %d menu buttons opened their screen with the menu open" % opened)
+        press_a_segment(app, application)
+        print("PASS: %d screens opened, no hidden button pressed, segments reload the list" % opened)
+        return 0
+    finally:
+        application.stop()
+
+
+if __name__ == "__main__":
+    sys.exit(main())
