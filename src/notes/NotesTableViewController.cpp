@@ -83,6 +83,7 @@ void NotesTableViewController::fetch()
     request.sortDescriptors = {{sortKeys[m_segmentIndex], false}};
     m_NotesList = AppDelegate::shared().viewContext().fetch<Notes>(request); // a failed fetch lists nothing
     m_loweredSearchField.clear();
+    m_matchedText.clear();
     reloadData();
 }
 
@@ -90,20 +91,36 @@ void NotesTableViewController::filter()
 {
     if (m_searchText.isEmpty()) {
         m_FilteredNotesList = m_NotesList;
+        m_matchedText.clear();
         return;
     }
     // The searched field is lowered once a fetch, at the first keystroke, not at every one.
     if (m_loweredSearchField.isEmpty()) {
         m_loweredSearchField.reserve(m_NotesList.size());
         for (const Notes *note : std::as_const(m_NotesList))
-            m_loweredSearchField.insert(note, note->valueForKey(searchKeys[m_segmentIndex]).toString().toLower());
+            m_loweredSearchField.append(note->valueForKey(searchKeys[m_segmentIndex]).toString().toLower());
     }
     const QString wanted = m_searchText.toLower();
-    m_FilteredNotesList.clear();
-    for (Notes *note : std::as_const(m_NotesList)) {
-        if (m_loweredSearchField.value(note).contains(wanted))
-            m_FilteredNotesList.append(note);
+    // Typing on only narrows: a field holding the new text holds the last one, so only the
+    // last matches need a look.
+    QList<qsizetype> rows;
+    if (!m_matchedText.isEmpty() && wanted.contains(m_matchedText)) {
+        for (const qsizetype row : std::as_const(m_matchedRows)) {
+            if (m_loweredSearchField.at(row).contains(wanted))
+                rows.append(row);
+        }
+    } else {
+        for (qsizetype row = 0; row < m_loweredSearchField.size(); ++row) {
+            if (m_loweredSearchField.at(row).contains(wanted))
+                rows.append(row);
+        }
     }
+    m_matchedText = wanted;
+    m_matchedRows = rows;
+    m_FilteredNotesList.clear();
+    m_FilteredNotesList.reserve(rows.size());
+    for (const qsizetype row : std::as_const(rows))
+        m_FilteredNotesList.append(m_NotesList.at(row));
 }
 
 void NotesTableViewController::didSelectRowAt(int row)
@@ -145,6 +162,8 @@ void NotesTableViewController::deleteRow(int row)
     saveOrLog(context);
     // Only the list in use loses the row; the other keeps it until the next fetch.
     list.removeAt(row);
+    if (&list == &m_NotesList && row < m_loweredSearchField.size())
+        m_loweredSearchField.removeAt(row);
     m_rows.removeNote(row);
     Q_EMIT canUndoDeleteChanged();
 }

@@ -59,7 +59,10 @@ private:
 
     QList<Notes *> m_NotesList;
     QList<Notes *> m_FilteredNotesList;
-    QHash<const Notes *, QString> m_loweredSearchField; // the segment's field of each fetched note
+    QStringList m_loweredSearchField; // the segment's field of each fetched note, row by row
+    // The last search, lowered, and the rows of the fetched list it matched.
+    QString m_matchedText;
+    QList<qsizetype> m_matchedRows;
     NotesListModel m_rows;
     int m_segmentIndex = 0;
     QString m_searchText;

@@ -187,8 +187,11 @@ void Sharing::saveCopy(const QUrl &target)
     if (!sharesFile())
         return;
     const QString path = target.toLocalFile();
-    QFile::remove(path);
-    if (!QFile::copy(m_request->filePath, path)) {
+    // A file already there is replaced only by a whole copy: a failed copy leaves it as it was.
+    QFile source(m_request->filePath);
+    QSaveFile copy(path);
+    if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly) || copy.write(source.readAll()) != source.size()
+        || !copy.commit()) {
         Q_EMIT failed(tr("The file could not be saved to %1").arg(path));
         return;
     }

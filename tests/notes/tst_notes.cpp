@@ -84,6 +84,8 @@ private Q_SLOTS:
     void sortsAndSearchesBySegment_data();
     void sortsAndSearchesBySegment();
     void deletingDuringASearchAndUndo();
+    void keystrokesOneAfterAnother_data();
+    void keystrokesOneAfterAnother();
     void appearanceClearsTheChoice();
     void saveOutcomes_data();
     void saveOutcomes();
@@ -173,6 +175,35 @@ void TestNotes::deletingDuringASearchAndUndo()
     QCOMPARE(storedNotes(), before);
     QVERIFY(!controller.canUndoDelete());
     QCOMPARE(subjectsShown(*controller.rows()).count(u"Team meeting"_s), 1);
+}
+
+void TestNotes::keystrokesOneAfterAnother_data()
+{
+    QTest::addColumn<QStringList>("steps"); // search texts, or "delete:N" for a row deleted
+    QTest::addColumn<QStringList>("subjects");
+    QTest::newRow("typing on") << QStringList{u"e"_s, u"ee"_s, u"eet"_s} << QStringList{u"Team meeting"_s};
+    QTest::newRow("back to a shorter text") << QStringList{u"e"_s, u"ee"_s, u"e"_s}
+                                           << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s};
+    QTest::newRow("a text holding the last one") << QStringList{u"g"_s, u"dg"_s} << QStringList{u"Budget"_s};
+    QTest::newRow("a row deleted from the whole list")
+        << QStringList{u"e"_s, QString(), u"delete:0"_s, u"e"_s} << QStringList{u"Team meeting"_s, u"Budget"_s};
+}
+
+void TestNotes::keystrokesOneAfterAnother()
+{
+    QFETCH(QStringList, steps);
+    QFETCH(QStringList, subjects);
+    TestEnvironment environment;
+    insertNotes(someNotes);
+    NotesTableViewController controller;
+    controller.viewWillAppear();
+    for (const QString &step : std::as_const(steps)) {
+        if (step.startsWith(u"delete:"_s))
+            controller.deleteRow(step.mid(7).toInt());
+        else
+            controller.updateSearchResults(step);
+    }
+    QCOMPARE(subjectsShown(*controller.rows()), subjects);
 }
 
 void TestNotes::appearanceClearsTheChoice()
