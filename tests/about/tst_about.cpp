@@ -1,14 +1,30 @@
 #include "AboutEditViewController.h"
+#include "AboutImportViewController.h"
 #include "AboutNewViewController.h"
 #include "AboutRows.h"
 #include "AboutTableViewController.h"
+#include "Alerts.h"
 #include "Selection.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes)
+{
+    const QString path = folder.filePath(u"picked.txt"_s);
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(bytes);
+    return path;
+}
+}
+
+// The about list's seeding, its articles' headings, new articles, and the about import.
 
 class TestAbout : public QObject
 {
@@ -24,6 +40,9 @@ private Q_SLOTS:
     void savingRepeatsTheHeading();
     void newArticle_data();
     void newArticle();
+    void import_data();
+    void import();
+    void unreadableFileChangesNothing();
 };
 
 void TestAbout::firstVisitSeeds_data()
@@ -57,7 +76,6 @@ void TestAbout::firstVisitSeeds()
     AboutTableViewController controller;
     controller.viewDidLoad();
 
-    QCOMPARE(controller.title(), u"About"_s);
     QCOMPARE(storedAbouts(), stored);
     QCOMPARE(controller.AboutList().size(), stored.size());
     QCOMPARE(environment.logLines, QStringList{u"First Launch"_s});
@@ -102,13 +120,9 @@ void TestAbout::headings_data()
     QTest::addColumn<bool>("left");
     QTest::newRow("morning authors") << u"Good Morning Authors"_s
                                      << u"From The Larkwells\nGood Morning Authors\n\nT"_s << true;
-    QTest::newRow("night authors") << u"Authors of Good Night"_s
-                                   << u"From The Larkwells\nAuthors of Good Night\n\nT"_s << true;
     QTest::newRow("morning preface") << u"Good Morning Preface"_s << u"From The Larkwells\n Good Morning \n\n T"_s
                                      << false;
     QTest::newRow("night preface") << u"Preface Good Night"_s << u"From The Larkwells\n Good Night \n\n T"_s << false;
-    QTest::newRow("morning acknowledgements") << u"Good Morning Acknowledgements"_s
-                                              << u"From The Larkwells\n Good Morning \n\n T"_s << false;
     QTest::newRow("night acknowledgements") << u"Good Night Acknowledgements"_s
                                             << u"From The Larkwells\n Good Night \n\n T"_s << false;
     QTest::newRow("authors before preface") << u"Good Night Preface Authors"_s
@@ -169,6 +183,74 @@ void TestAbout::newArticle()
     AboutNewViewController().SaveAboutItem(name, u"line one\nline @#@ two"_s);
     QCOMPARE(storedAbouts(), stored);
     QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
+}
+
+void TestAbout::import_data()
+{
+    QTest::addColumn<QByteArray>("file"); // null: no file was picked
+    QTest::addColumn<QStringList>("articles");
+    QTest::addColumn<QStringList>("alerts");
+    QTest::addColumn<bool>("fatal");
+    const QStringList completed{u"Data Import Completed"_s};
+    const QStringList rejected{u"WRONG TEXT FILE - ABORTING"_s, u"Data Import Completed"_s};
+    QTest::newRow("header alone empties the table") << QByteArray("[ABOUT]\n") << QStringList() << completed << false;
+    QTest::newRow("lower-case header is rejected") << QByteArray("[about]\nA^b\n") << QStringList() << rejected << false;
+    QTest::newRow("header on the last line") << QByteArray("A^x@#@y\n[ABOUT]") << QStringList{u"A|x\ny"_s} << completed << false;
+    QTest::newRow("a name twice keeps the later text literally")
+        << QByteArray("[ABOUT]\nA^x@#@y\nA^z@#@w\n") << QStringList{u"A|z@#@w"_s} << completed << false;
+    QTest::newRow("empty name gives an article without one")
+        << QByteArray("[ABOUT]\n^Text only\n^Again\n") << QStringList{u"-|Again"_s, u"-|Text only"_s} << completed << false;
+    QTest::newRow("no caret, empty text, CRLF")
+        << QByteArray("[ABOUT]\r\nJust a name\r\nB^\r\nC^c\r\n") << QStringList{u"B|-"_s, u"C|c"_s, u"Just a name|-"_s}
+        << completed << false;
+    QTest::newRow("only empty lines pass before the header check") << QByteArray("\n\r\n\n") << QStringList() << completed << false;
+    QTest::newRow("UTF-16 with a byte-order mark")
+        << QByteArray("\xff\xfe[\0A\0B\0O\0U\0T\0]\0\n\0\xe9\0^\0x\0", 24) << QStringList{u"é|x"_s} << completed << false;
+    QTest::newRow("a third field stops after the lines before it")
+        << QByteArray("[ABOUT]\nA^a\nB^b^c\nC^c\n") << QStringList{u"A|a"_s} << QStringList() << true;
+    QTest::newRow("no file picked stops after emptying") << QByteArray() << QStringList() << QStringList() << true;
+}
+
+void TestAbout::import()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, articles);
+    QFETCH(QStringList, alerts);
+    QFETCH(bool, fatal);
+    TestEnvironment environment;
+    insertAbouts({u"Old|Written before"_s});
+    QTemporaryDir folder;
+    AboutImportViewController controller;
+    QVERIFY(!controller.ImportButtonEnabled());
+    if (!file.isNull()) {
+        controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, file)));
+        QVERIFY(controller.ImportButtonEnabled());
+    }
+    QSignalSpy presented(&Alerts::shared(), &Alerts::presented);
+    QCOMPARE(!fatalStop([&] { controller.ImportButtonClicked(); }).isEmpty(), fatal);
+    QStringList stored = storedAbouts();
+    stored.sort();
+    QCOMPARE(stored, articles);
+    QStringList messages;
+    for (const QList<QVariant> &alert : presented) {
+        QCOMPARE(alert[0].toString(), u"Data Import"_s);
+        messages.append(alert[1].toString());
+    }
+    QCOMPARE(messages, alerts);
+    dismissAlerts(); // each "OK" leads back to the about list
+    QCOMPARE(environment.logLines.count(u"Back button Clicked"_s), alerts.size());
+}
+
+void TestAbout::unreadableFileChangesNothing()
+{
+    TestEnvironment environment;
+    QTemporaryDir folder;
+    AboutImportViewController controller;
+    controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, "[ABOUT]\nA^b\n")));
+    controller.documentPicker(QUrl::fromLocalFile(folder.filePath(u"gone.txt"_s)));
+    controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, "\xc3\x28 not UTF-8")));
+    QCOMPARE(environment.logLines.size(), 2);
+    QCOMPARE(controller.ImportTextView(), u"[ABOUT]\nA^b\n"_s);
 }
 
 QTEST_MAIN(TestAbout)

@@ -1,4 +1,3 @@
-#include "FatalError.h"
 #include "Navigator.h"
 #include "PageRows.h"
 #include "SearchTableViewController.h"
@@ -99,13 +98,11 @@ void TestSearch::staleResultsAfterScopeChange()
     QCOMPARE(shownPagenums(controller), QList<int>{});
 
     controller.segmentedControlAction(1);
-    QCOMPARE(controller.placeholder(), u"Search for Poem/Prayer"_s);
     QCOMPARE(shownPagenums(controller), QList<int>{}); // still the dates' result
     controller.setSearchText(u"nigh"_s);
     QCOMPARE(shownPagenums(controller), QList<int>{2});
 
     controller.segmentedControlAction(0);
-    QCOMPARE(controller.placeholder(), u"Search for Dates"_s);
     QCOMPARE(shownPagenums(controller), QList<int>{2});
     controller.setSearchText(u"nig"_s);
     QCOMPARE(shownPagenums(controller), QList<int>{});
@@ -120,41 +117,32 @@ void TestSearch::rowChosenSetsTheSelection_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("dt");
-    QTest::addColumn<int>("pagenum");
-    QTest::addColumn<QString>("favorite");
-    QTest::newRow("whole list, favourite") << QString() << 1 << u"January 1"_s << 2 << u"T"_s;
-    QTest::newRow("whole list, other mark reads F") << QString() << 2 << u"February 10"_s << 41 << u"F"_s;
-    QTest::newRow("filtered, F") << u"o"_s << 0 << u"January 1"_s << 1 << u"F"_s;
-    QTest::newRow("filtered, other mark reads as none") << u"LANTERN"_s << 1 << u"February 10"_s << 41 << QString();
+    QTest::addColumn<QString>("selection"); // dt, pagenum, favorite
+    QTest::newRow("whole list, favourite") << QString() << 1 << u"January 1|2|T"_s;
+    QTest::newRow("whole list, other mark reads F") << QString() << 2 << u"February 10|41|F"_s;
+    QTest::newRow("filtered, F") << u"o"_s << 0 << u"January 1|1|F"_s;
+    QTest::newRow("filtered, other mark reads as none") << u"LANTERN"_s << 1 << u"February 10|41|"_s;
 }
 
 void TestSearch::rowChosenSetsTheSelection()
 {
     QFETCH(QString, typed);
     QFETCH(int, row);
-    QFETCH(QString, dt);
-    QFETCH(int, pagenum);
-    QFETCH(QString, favorite);
+    QFETCH(QString, selection);
     TestEnvironment environment;
     insertPages(pages);
     SearchTableViewController controller;
     controller.viewDidLoad();
     controller.segmentedControlAction(1);
     controller.setSearchText(typed);
-    Selection &selection = Selection::shared();
-    selection.setSelectedSearchText(u"left over"_s);
+    Selection &selected = Selection::shared();
+    selected.setSelectedSearchText(u"left over"_s);
     QSignalSpy segues(&Navigator::shared(), &Navigator::segueRequested);
-
     controller.didSelectRowAt(row);
-    QCOMPARE(selection.selectedSearchText(), typed);
-    QCOMPARE(selection.selectedDt(), dt);
-    QCOMPARE(selection.selectedPagenum(), pagenum);
-    QCOMPARE(selection.selectedFavorite(), favorite);
-    QCOMPARE(selection.selectedPoemPrayer(),
-             controller.rows()->pages().at(row)->poemprayer().value());
-    QCOMPARE(segues.count(), 1);
-    QCOMPARE(segues.first().first().toString(), u"SearchPoemSegue"_s);
+    QCOMPARE(selected.selectedSearchText(), typed);
+    QCOMPARE(u"%1|%2|%3"_s.arg(selected.selectedDt()).arg(selected.selectedPagenum()).arg(selected.selectedFavorite()), selection);
+    QCOMPARE(selected.selectedPoemPrayer(), controller.rows()->pages().at(row)->poemprayer().value());
+    QCOMPARE(segues.value(0).value(0).toString(), u"SearchPoemSegue"_s);
 }
 
 QTEST_MAIN(TestSearch)

@@ -56,7 +56,6 @@ void TestSpecialDays::firstVisitSeeds_data()
     QTest::addColumn<QString>("logLine"); // after "First Launch"
 
     const QStringList easter{u"Good Morning - Easter|Morning|Risen\nindeed"_s, u"Good Night - Easter|Night|Sleep"_s};
-    QTest::newRow("LF") << "[SPECIALDAYS]\nAM^Easter^Risen@#@indeed\nPM^Easter^Sleep\n"_ba << easter << QString();
     QTest::newRow("CR LF reads the same") << "[SPECIALDAYS]\r\nAM^Easter^Risen@#@indeed\r\nPM^Easter^Sleep\r\n"_ba
                                           << easter << QString();
     QTest::newRow("markers and blank lines anywhere, no header")
@@ -100,13 +99,10 @@ void TestSpecialDays::firstVisitSeeds()
     controller.viewDidLoad();
 
     QCOMPARE(rowsOf(controller), rows);
-    const QStringList expectedLog = logLine.isEmpty() ? QStringList{u"First Launch"_s}
-                                                      : QStringList{u"First Launch"_s, logLine};
-    QCOMPARE(environment.logLines, expectedLog);
+    QCOMPARE(environment.logLines.join(u'\n'), (QStringList{u"First Launch"_s, logLine}.join(u'\n').trimmed()));
     QVERIFY(UserDefaults::standard().boolForKey(flag));
     QCOMPARE(UserDefaults::standard().stringForKey(u"ListFontName"_s).value_or(QString()), u"Arial"_s);
     QCOMPARE(controller.appearance()->ListFontSize(), 17.0);
-    QCOMPARE(controller.title(), u"Special Days"_s);
 }
 
 void TestSpecialDays::longRecordIsFatalAfterTheDaysBeforeIt()
@@ -149,13 +145,12 @@ void TestSpecialDays::choosingADayFillsTheSelection()
     QCOMPARE(controller.appearance()->ListFontName(), u"DejaVu Sans"_s);
     QSignalSpy segues(&Navigator::shared(), &Navigator::segueRequested);
     Selection &selection = Selection::shared();
-
-    controller.didSelectRowAt(1);
-    QCOMPARE((QStringList{selection.selectedSpecialAmpm(), selection.selectedSpecialDayName(), selection.selectedSpecialPoem()}),
-             (QStringList{u"PM"_s, u"Michaelmas"_s, u"Angels\nkeep watch"_s}));
-    controller.didSelectRowAt(0); // a day without name or poem gives empty strings, not the last ones
-    QCOMPARE((QStringList{selection.selectedSpecialAmpm(), selection.selectedSpecialDayName(), selection.selectedSpecialPoem()}),
-             (QStringList{u"AM"_s, QString(), QString()}));
+    QStringList chosen;
+    for (const int row : {1, 0}) { // a day without name or poem gives empty strings, not the last ones
+        controller.didSelectRowAt(row);
+        chosen << selection.selectedSpecialAmpm() + u'|' + selection.selectedSpecialDayName() + u'|' + selection.selectedSpecialPoem();
+    }
+    QCOMPARE(chosen, (QStringList{u"PM|Michaelmas|Angels\nkeep watch"_s, u"AM||"_s}));
     QCOMPARE(segues.size(), 2);
     QCOMPARE(segues.first().first().toString(), u"SpecialDayReaderSegue"_s);
 }
@@ -163,9 +158,7 @@ void TestSpecialDays::choosingADayFillsTheSelection()
 void TestSpecialDays::writerRoundTrips()
 {
     const QByteArray file = "[SPECIALDAYS]\nAM^New Year’s Day^First@#@@#@Second\nPM^A@#@B^one\nPM^Short\n^No time^x\n"_ba;
-    const QList<SpecialDayFile::Record> records = parsed(file);
-    const auto written = SpecialDayFile::write(records);
-    QCOMPARE(std::get<QByteArray>(written), file);
+    QCOMPARE(std::get<QByteArray>(SpecialDayFile::write(parsed(file))), file);
 
     // The shipped file survives a round trip day for day.
     QFile shipped(TestEnvironment::sourceResources() + u"/SpecialDays.txt"_s);

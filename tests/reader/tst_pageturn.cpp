@@ -7,8 +7,10 @@
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
+#include <QQuickTextDocument>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -28,10 +30,11 @@ private Q_SLOTS:
 };
 
 namespace {
+const QString longPage = u"A line of the morning\n"_s.repeated(80) + u"Snowdrops in the lane"_s;
 // January 1 and 2, morning and night; the night of the 1st and the morning of the 2nd are favourites.
 const QStringList pages{u"January 1|AM|1|1|1|F|Frost on the gate"_s, u"January 1|PM|1|1|2|T|Lamps along the lane"_s,
                         u"January 2|AM|1|2|3|T|Bread rising"_s, u"January 2|PM|1|2|4|F|The owl at the window"_s,
-                        u"February 3|AM|2|3|67|F|Snowdrops in the lane"_s};
+                        u"February 3|AM|2|3|67|F|"_s + longPage};
 
 QQuickItem *visible(QQuickWindow *window, const QString &name)
 {
@@ -171,6 +174,8 @@ void TestPageTurn::turnInPageList()
     QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), listRow);
 }
 
+// Search, the marked result scrolled into sight, a turn to the next result, a favourite, and back
+// to the same search.
 void TestPageTurn::turnInSearchResults()
 {
     TestEnvironment environment;
@@ -181,30 +186,45 @@ void TestPageTurn::turnInSearchResults()
     QQuickItem *field = waitForItem(window, u"searchField"_s);
     QTRY_VERIFY(field->hasActiveFocus()); // the field takes the keyboard on opening
     click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
+    QTRY_COMPARE(field->property("placeholderText").toString(), u"Search for Poem/Prayer"_s);
     field->forceActiveFocus();
-    for (const char letter : {'l', 'a', 'n', 'e'})
-        QTest::keyClick(window, letter);
+    for (const char letter : {'L', 'A', 'N', 'E'})
+        QTest::keyClick(window, letter, Qt::ShiftModifier);
     QTRY_COMPARE(visible(window, u"matchCount"_s)->property("text").toString(), u"2 pages match"_s);
     click(window, waitForItem(window, u"row-0"_s));
     QTRY_COMPARE(topPage(window), u"SearchView"_s);
     QVERIFY(!visible(window, u"PreviousPageButton"_s)->isEnabled());
 
-    // The second result, not the next page of the book.
+    // The second result, not the next page of the book; its match far below the first screen.
     QTest::keyClick(window, Qt::Key_Right);
     QTRY_COMPARE(selectedPage(), u"February 3|AM|2|3|67|F"_s);
-    QCOMPARE(Selection::shared().selectedSearchText(), u"lane"_s);
-    QCOMPARE(Selection::shared().selectedPoemPrayer(),
-             u"\n\nFrom The Larkwells\n Good Morning\n\nFebruary 3\n\nSnowdrops in the lane"_s);
-    QTRY_VERIFY(visible(window, u"PoemPrayerTextView"_s)->property("text").toString().contains(u"Snowdrops"_s));
+    QCOMPARE(Selection::shared().selectedSearchText(), u"LANE"_s);
+    QCOMPARE(Selection::shared().selectedPoemPrayer(), u"\n\nFrom The Larkwells\n Good Morning\n\nFebruary 3\n\n"_s + longPage);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QTRY_COMPARE(markedFragments(*text->property("textDocument").value<QQuickTextDocument *>()->textDocument()),
+                 QStringList{u"lane"_s});
+    QTRY_VERIFY(visible(window, u"scroller"_s)->property("contentY").toDouble() > 500);
     QVERIFY(visible(window, u"PreviousPageButton"_s)->isEnabled());
     QVERIFY(!visible(window, u"NextPageButton"_s)->isEnabled());
+    click(window, waitForItem(window, u"FavoriteCheckBox"_s));
+    QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).last(), u"T"_s);
 
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
     QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), 1);
+    QCOMPARE(field->property("text").toString(), u"LANE"_s);
+    QTRY_VERIFY(visible(window, u"row-1"_s)->property("favoriteChecked").toBool());
+    // Escape empties the field first, then leaves the screen.
+    field->forceActiveFocus();
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(field->property("text").toString(), QString());
+    QCOMPARE(topPage(window), u"SearchTableView"_s);
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(topPage(window), u"CoverView"_s);
 }
 
-// Typing changes the page: the caret keeps the arrow keys, and the page stays until it is saved.
+// A favourite ticked in the reader shows in the list; typing changes the page: the caret keeps the
+// arrow keys, and the page stays until it is saved.
 void TestPageTurn::unsavedEditsKeepThePage()
 {
     TestEnvironment environment;
@@ -215,6 +235,8 @@ void TestPageTurn::unsavedEditsKeepThePage()
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
     QQuickItem *next = visible(window, u"NextPageButton"_s);
     QTRY_VERIFY(next->isEnabled());
+    click(window, waitForItem(window, u"FavoriteCheckBox"_s));
+    QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).first(), u"T"_s);
 
     text->forceActiveFocus();
     QTest::keyClick(window, Qt::Key_Right);
@@ -229,6 +251,9 @@ void TestPageTurn::unsavedEditsKeepThePage()
     click(window, next);
     QTRY_COMPARE(Selection::shared().selectedDt(), u"January 2"_s);
     QVERIFY(!text->hasActiveFocus());
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+    QTRY_VERIFY(visible(window, u"row-0"_s)->property("favoriteChecked").toBool());
 }
 
 QTEST_MAIN(TestPageTurn)

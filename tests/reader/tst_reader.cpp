@@ -1,5 +1,6 @@
 #include "Alerts.h"
 #include "PageRows.h"
+#include "SearchViewController.h"
 #include "Selection.h"
 #include "Sharing.h"
 #include "TestSupport.h"
@@ -9,29 +10,23 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-void select(const QString &ampm, const QString &dt, const QString &text, const QString &favorite = u"F"_s)
+void select(const QString &ampm, const QString &dt = u"May 1"_s, const QString &text = u"Body"_s, const QString &search = {})
 {
     Selection &selection = Selection::shared();
     selection.setSelectedAmpm(ampm);
     selection.setSelectedDt(dt);
     selection.setSelectedPoemPrayer(text);
-    selection.setSelectedFavorite(favorite);
+    selection.setSelectedSearchText(search);
+    selection.setSelectedFavorite(u"F"_s);
+}
 }
 
-// A scripted random source: hands out the given draws and records each bound asked for.
-struct Draws {
-    QList<int> values;
-    QList<int> bounds;
-    Wallpapers::Uniform uniform()
-    {
-        return [this](int bound) { bounds.append(bound); return values.takeFirst(); };
-    }
-};
-}
+// The page reader and the search-result reader.
 
 class TestReader : public QObject
 {
@@ -44,12 +39,18 @@ private Q_SLOTS:
     void appearanceFromPreferences();
     void favouriteSavesExactlyOnePage_data();
     void favouriteSavesExactlyOnePage();
-    void stepperMovesOnePointAndStoresTheSize();
+    void stepperMovesOnePoint();
     void wallpaperDrawBounds_data();
     void wallpaperDrawBounds();
     void shareGate_data();
     void shareGate();
-    void generalShareLogsItsOutcome();
+    void searchComposesAndMarks_data();
+    void searchComposesAndMarks();
+    void searchInvalidPatternStops();
+    void searchFavouriteSavesTheFirstPage_data();
+    void searchFavouriteSavesTheFirstPage();
+    void searchShare_data();
+    void searchShare();
 };
 
 void TestReader::composesHeadingDateAndText_data()
@@ -68,12 +69,11 @@ void TestReader::composesHeadingDateAndText()
     QFETCH(QString, title);
     QFETCH(QString, text);
     TestEnvironment environment;
-    select(ampm, u"May 1"_s, u"Body"_s);
+    select(ampm);
     ViewController controller;
     controller.viewDidLoad();
     QCOMPARE(controller.title(), title);
     QCOMPARE(controller.PoemPrayerText(), text);
-    QCOMPARE(controller.CombinedText(), text);
     QCOMPARE(Selection::shared().selectedPoemPrayer(), text);
     QCOMPARE(UserDefaults::standard().integerForKey(u"reviewWorthyActionCount"_s), 1); // the review rule ran
 }
@@ -81,66 +81,49 @@ void TestReader::composesHeadingDateAndText()
 void TestReader::appearanceFromPreferences_data()
 {
     QTest::addColumn<QVariantMap>("preferences");
-    QTest::addColumn<QString>("fatal"); // the stop's message, empty for none
-    QTest::addColumn<bool>("styled");
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<double>("size");
-    QTest::addColumn<QString>("wallpaper");
-    QTest::newRow("defaults") << QVariantMap() << QString() << true << QColor(Qt::black) << 15.0 << QString();
+    QTest::addColumn<QString>("shown"); // "colour size wallpaper", "plain", or the fatal stop's message
     QTest::newRow("blue, larger, with wallpaper")
-        << QVariantMap{{u"textColor"_s, 3}, {u"ReaderFontSize"_s, 21.0}, {u"useWallpaper"_s, 1},
-                       {u"FontName"_s, u"EB Garamond"_s}}
-        << QString() << true << QColor(Qt::blue) << 21.0 << u"Page1.jpg"_s;
-    QTest::newRow("whole size stored as integer") << QVariantMap{{u"ReaderFontSize"_s, 17}} << QString() << true
-                                                  << QColor(Qt::black) << 17.0 << QString();
-    QTest::newRow("colour code 7 keeps the laid-out text view") << QVariantMap{{u"textColor"_s, 7}} << QString() << false
-                                                                << QColor(Qt::black) << 15.0 << QString();
+        << QVariantMap{{u"textColor"_s, 3}, {u"ReaderFontSize"_s, 21.0}, {u"useWallpaper"_s, 1}, {u"FontName"_s, u"EB Garamond"_s}}
+        << u"#0000ff 21 Page1.jpg"_s;
+    QTest::newRow("whole size stored as integer") << QVariantMap{{u"ReaderFontSize"_s, 17}} << u"#000000 17 "_s;
+    QTest::newRow("colour code 7 keeps the laid-out text view") << QVariantMap{{u"textColor"_s, 7}} << u"plain"_s;
     QTest::newRow("unknown font") << QVariantMap{{u"FontName"_s, u"Nowhere Sans Imaginary"_s}}
-                                  << u"Fatal error: the font \"Nowhere Sans Imaginary\" is not known on this system"_s << false
-                                  << QColor() << 0.0 << QString();
+                                  << u"Fatal error: the font \"Nowhere Sans Imaginary\" is not known on this system"_s;
     QTest::newRow("colour stored as text") << QVariantMap{{u"textColor"_s, u"2"_s}}
-                                           << u"Fatal error: the setting \"textColor\" holds a value that is not an integer"_s << false << QColor()
-                                           << 0.0 << QString();
+                                           << u"Fatal error: the setting \"textColor\" holds a value that is not an integer"_s;
 }
 
 void TestReader::appearanceFromPreferences()
 {
     QFETCH(QVariantMap, preferences);
-    QFETCH(QString, fatal);
-    QFETCH(bool, styled);
-    QFETCH(QColor, color);
-    QFETCH(double, size);
-    QFETCH(QString, wallpaper);
+    QFETCH(QString, shown);
     TestEnvironment environment;
     for (auto it = preferences.begin(); it != preferences.end(); ++it)
         UserDefaults::standard().set(it.key(), it.value());
-    select(u"AM"_s, u"May 1"_s, u"Body"_s);
+    select(u"AM"_s);
     ViewController controller;
-    QCOMPARE(fatalStop([&] { controller.viewDidLoad(); }), fatal);
-    if (!fatal.isEmpty())
+    const QString stop = fatalStop([&] { controller.viewDidLoad(); });
+    if (!stop.isEmpty()) {
+        QCOMPARE(stop, shown);
         return;
-    QCOMPARE(controller.appearance()->styled(), styled);
-    QCOMPARE(controller.PoemPrayerText().isEmpty(), !styled);
-    if (styled) {
-        QCOMPARE(controller.appearance()->textColor(), color);
-        QCOMPARE(controller.appearance()->fontSize(), size);
     }
-    QCOMPARE(controller.appearance()->wallpaper().fileName(), wallpaper);
+    const ReaderAppearance &look = *controller.appearance();
+    QCOMPARE(controller.PoemPrayerText().isEmpty(), !look.styled());
+    QCOMPARE(look.styled() ? u"%1 %2 %3"_s.arg(look.textColor().name()).arg(look.fontSize()).arg(look.wallpaper().fileName())
+                           : u"plain"_s,
+             shown);
 }
 
 void TestReader::favouriteSavesExactlyOnePage_data()
 {
     QTest::addColumn<QStringList>("pages");
     QTest::addColumn<QStringList>("stored");
-    const QString heading = u"\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s;
     QTest::newRow("one match: favourite and shown text written")
         << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|PM|5|1|242|F|Night"_s}
-        << QStringList{u"May 1|T|"_s + heading, u"May 1|F|Night"_s};
-    QTest::newRow("no match writes nothing") << QStringList{u"May 2|AM|5|2|243|F|Body"_s}
-                                             << QStringList{u"May 2|F|Body"_s};
+        << QStringList{u"T|\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s, u"F|Night"_s};
+    QTest::newRow("no match writes nothing") << QStringList{u"May 2|AM|5|2|243|F|Body"_s} << QStringList{u"F|Body"_s};
     QTest::newRow("two morning pages share the date: nothing written")
-        << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|AM|5|1|241|F|Copy"_s}
-        << QStringList{u"May 1|F|Body"_s, u"May 1|F|Copy"_s};
+        << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|AM|5|1|241|F|Copy"_s} << QStringList{u"F|Body"_s, u"F|Copy"_s};
 }
 
 void TestReader::favouriteSavesExactlyOnePage()
@@ -149,52 +132,45 @@ void TestReader::favouriteSavesExactlyOnePage()
     QFETCH(QStringList, stored);
     TestEnvironment environment;
     insertPages(pages);
-    select(u"AM"_s, u"May 1"_s, u"Body"_s);
+    select(u"AM"_s);
     ViewController controller;
     QSignalSpy favourite(&controller, &ViewController::favoriteCheckStateRequested);
     controller.viewDidLoad();
-    QCOMPARE(favourite.size(), 1);
-    QCOMPARE(favourite.first(), (QVariantList{0, false}));
-
+    QCOMPARE(favourite.value(0), (QVariantList{0, false}));
     controller.CheckBoxChecked(1);
-
     QCOMPARE(Selection::shared().selectedFavorite(), u"T"_s);
-    QCOMPARE(storedRows<PoemPrayer>({u"dt"_s, u"favorite"_s, u"poemprayer"_s}), stored);
+    QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s, u"poemprayer"_s}), stored);
 }
 
-void TestReader::stepperMovesOnePointAndStoresTheSize()
+// The stepper's value is stored as it comes, but the text moves one point whatever the step.
+void TestReader::stepperMovesOnePoint()
 {
     TestEnvironment environment;
-    select(u"PM"_s, u"May 1"_s, u"Body"_s);
+    select(u"PM"_s);
     ViewController controller;
     controller.viewDidLoad();
-    controller.ChangeFontSize(16);
-    QCOMPARE(controller.appearance()->fontSize(), 16.0);
-    QCOMPARE(UserDefaults::standard().typeOf(u"ReaderFontSize"_s), UserDefaults::Type::Double);
-    QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 16.0);
-    controller.ChangeFontSize(26); // a bigger step still moves the text one point
-    QCOMPARE(controller.appearance()->fontSize(), 17.0);
-    controller.ChangeFontSize(20);
-    QCOMPARE(controller.appearance()->fontSize(), 16.0);
-    controller.ChangeFontSize(20);
-    QCOMPARE(controller.appearance()->fontSize(), 16.0);
+    QList<double> shown;
+    for (const double value : {16.0, 26.0, 20.0, 20.0}) {
+        controller.ChangeFontSize(value);
+        shown.append(controller.appearance()->fontSize());
+    }
+    QCOMPARE(shown, (QList<double>{16, 17, 16, 16}));
+    QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 20.0);
 }
 
 void TestReader::wallpaperDrawBounds_data()
 {
     QTest::addColumn<int>("firstBound");
-    QTest::addColumn<QStringList>("unused"); // names set to "false"; all others "true"
-    QTest::addColumn<bool>("fresh");         // no wallpaper keys at all
+    QTest::addColumn<QStringList>("unused"); // names set to "false"; all others "true", or no keys at all for "fresh"
     QTest::addColumn<QList<int>>("draws");
     QTest::addColumn<int>("index");
     QTest::addColumn<QList<int>>("bounds");
-    QTest::newRow("reader's first draw reaches the last") << 35 << QStringList() << false << QList<int>{34} << 34
-                                                          << QList<int>{35};
-    QTest::newRow("redraws stop short of the last") << 35 << QStringList{u"Page3"_s} << false
-                                                    << QList<int>{2, 33} << 33 << QList<int>{35, 34};
-    QTest::newRow("list draws never reach the last") << 34 << QStringList{u"Page1"_s, u"Page2"_s} << false
-                                                     << QList<int>{0, 1, 5} << 5 << QList<int>{34, 34, 34};
-    QTest::newRow("a name without a key keeps the start") << 35 << QStringList() << true << QList<int>{9} << 0
+    QTest::newRow("reader's first draw reaches the last") << 35 << QStringList() << QList<int>{34} << 34 << QList<int>{35};
+    QTest::newRow("redraws stop short of the last") << 35 << QStringList{u"Page3"_s} << QList<int>{2, 33} << 33
+                                                    << QList<int>{35, 34};
+    QTest::newRow("list draws never reach the last") << 34 << QStringList{u"Page1"_s, u"Page2"_s} << QList<int>{0, 1, 5}
+                                                     << 5 << QList<int>{34, 34, 34};
+    QTest::newRow("a name without a key keeps the start") << 35 << QStringList{u"fresh"_s} << QList<int>{9} << 0
                                                           << QList<int>{35};
 }
 
@@ -202,77 +178,178 @@ void TestReader::wallpaperDrawBounds()
 {
     QFETCH(int, firstBound);
     QFETCH(QStringList, unused);
-    QFETCH(bool, fresh);
     QFETCH(QList<int>, draws);
     QFETCH(int, index);
     QFETCH(QList<int>, bounds);
     TestEnvironment environment;
-    if (!fresh)
+    if (!unused.contains(u"fresh"_s))
         Wallpapers::enableUnsetWallpapers();
     for (const QString &name : unused)
         UserDefaults::standard().set(name, u"false"_s);
-    Draws script{draws, {}};
-    QCOMPARE(Wallpapers::draw(Wallpapers::ViewerWallpaper(), firstBound, 0, script.uniform()), index);
-    QCOMPARE(script.bounds, bounds);
+    QList<int> asked;
+    const auto uniform = [&](int bound) { asked.append(bound); return draws.takeFirst(); };
+    QCOMPARE(Wallpapers::draw(Wallpapers::ViewerWallpaper(), firstBound, 0, uniform), index);
+    QCOMPARE(asked, bounds);
 }
 
 void TestReader::shareGate_data()
 {
     QTest::addColumn<bool>("canSendText");
     QTest::addColumn<QString>("ampm");
-    QTest::addColumn<bool>("alert");
     QTest::addColumn<bool>("sheet");
-    QTest::newRow("no text messages: alert, never the sheet") << false << u"AM"_s << true << false;
-    QTest::newRow("morning page") << true << u"AM"_s << false << true;
-    QTest::newRow("night page") << true << u"PM"_s << false << true;
-    QTest::newRow("neither: nothing") << true << u"x"_s << false << false;
+    QTest::newRow("no text messages: alert, never the sheet") << false << u"AM"_s << false;
+    QTest::newRow("morning page") << true << u"AM"_s << true;
+    QTest::newRow("night page") << true << u"PM"_s << true;
+    QTest::newRow("neither: nothing") << true << u"x"_s << false;
 }
 
 void TestReader::shareGate()
 {
     QFETCH(bool, canSendText);
     QFETCH(QString, ampm);
-    QFETCH(bool, alert);
     QFETCH(bool, sheet);
     TestEnvironment environment;
     Sharing::shared().setCanSendTextForTesting(canSendText);
-    select(ampm, u"May 1"_s, u"Body"_s);
+    select(ampm);
     ViewController controller;
     controller.viewDidLoad();
     controller.setPoemPrayerText(u"edited, not saved"_s);
     QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
-
     controller.SharePoem();
-
-    QCOMPARE(alerts.wait(100), alert); // the alert comes on the next turn of the event loop
-    if (alert) {
-        QCOMPARE(alerts.first().at(0).toString(), u"Can't Send Text Message"_s);
-        QCOMPARE(alerts.first().at(1).toString(), u"Your Device is not able to send text messages."_s);
+    QCOMPARE(alerts.wait(100), !canSendText); // the alert comes on the next turn of the event loop
+    if (!canSendText) {
+        QCOMPARE(alerts.first(), (QVariantList{u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s}));
         QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
         Alerts::shared().dismiss(0);
     }
-    QCOMPARE(Sharing::shared().showing(), sheet);
-    if (sheet)
-        QCOMPARE(Sharing::shared().text(), u"edited, not saved"_s);
+    QCOMPARE(Sharing::shared().showing() ? Sharing::shared().text() : QString(), sheet ? u"edited, not saved"_s : QString());
     Sharing::shared().cancel();
     Sharing::shared().setCanSendTextForTesting(std::nullopt);
 }
 
-void TestReader::generalShareLogsItsOutcome()
+void TestReader::searchComposesAndMarks_data()
+{
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<int>("colour");
+    QTest::addColumn<QString>("shown"); // "" for the morning heading and the text
+    QTest::addColumn<QStringList>("marked");
+    QTest::addColumn<QString>("look"); // the text colour, or "plain"
+    const QString heading = u"\n\nFrom The Larkwells\n Good Night\n\nJanuary 1\n\n"_s;
+    QTest::newRow("no search: red, nothing marked") << u"AM"_s << QString() << 2 << QString() << QStringList() << u"#b00000"_s;
+    QTest::newRow("every case marked, black over red") << u"AM"_s << u"snow"_s << 2 << QString()
+                                                       << QStringList{u"Snow"_s, u"SNOW"_s} << u"#000000"_s;
+    QTest::newRow("heading and date line marked") << u"PM"_s << u"n"_s << 0 << heading
+                                                  << QStringList{u"N"_s, u"n"_s, u"n"_s, u"n"_s, u"N"_s} << u"#000000"_s;
+    QTest::newRow("a full stop is any letter") << u"AM"_s << u"s.ll"_s << 1 << QString() << QStringList{u"sill"_s}
+                                               << u"#000000"_s;
+    QTest::newRow("markup characters are text") << u"AM"_s << u"<bread>"_s << 0 << QString()
+                                                << QStringList{u"<bread>"_s} << u"#000000"_s;
+    QTest::newRow("no match: the plain style") << u"AM"_s << u"zebra"_s << 3 << QString() << QStringList() << u"plain"_s;
+    QTest::newRow("colour code 7, match: shown black") << u"AM"_s << u"sill"_s << 7 << QString()
+                                                       << QStringList{u"sill"_s} << u"#000000"_s;
+    QTest::newRow("colour code 7, no search: empty") << u"AM"_s << QString() << 7 << u"-"_s << QStringList() << u"plain"_s;
+    QTest::newRow("neither morning nor night: the text alone") << u"am"_s << u"bread"_s << 0 << u"+"_s
+                                                               << QStringList{u"bread"_s} << u"#000000"_s;
+}
+
+void TestReader::searchComposesAndMarks()
+{
+    QFETCH(QString, ampm);
+    QFETCH(QString, search);
+    QFETCH(int, colour);
+    QFETCH(QString, shown);
+    QFETCH(QStringList, marked);
+    QFETCH(QString, look);
+    const QString body = u"Snow on the sill,  SNOW & <bread>"_s;
+    shown = shown.isEmpty() ? u"\n\nFrom The Larkwells\n Good Morning\n\nJanuary 1\n\n"_s + body
+          : shown == u"-" ? QString() : shown == u"+" ? body : shown + body;
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"textColor"_s, colour);
+    select(ampm, u"January 1"_s, body, search);
+    SearchViewController controller;
+    controller.viewDidLoad();
+    QCOMPARE(controller.title(), u"Search Poems/Prayers"_s);
+    QCOMPARE(Selection::shared().selectedPoemPrayer(), controller.CombinedText());
+    QCOMPARE(controller.shownText(), shown);
+    QTextDocument document;
+    document.setHtml(controller.PoemPrayerText());
+    QCOMPARE(document.toPlainText(), shown);
+    QCOMPARE(markedFragments(document), marked);
+    QCOMPARE(controller.appearance()->styled() ? controller.appearance()->textColor().name() : u"plain"_s, look);
+}
+
+void TestReader::searchInvalidPatternStops()
 {
     TestEnvironment environment;
-    select(u"x"_s, u"May 1"_s, u"Body"_s);
-    ViewController controller;
+    select(u"AM"_s, u"January 1"_s, u"Snow"_s, u"(snow"_s);
+    SearchViewController controller;
+    const QString stop = fatalStop([&] { controller.viewDidLoad(); });
+    QVERIFY2(stop.contains(u"\"(snow\" is not a valid pattern"_s), qPrintable(stop));
+}
+
+void TestReader::searchFavouriteSavesTheFirstPage_data()
+{
+    QTest::addColumn<QString>("dt");
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<int>("checkState");
+    QTest::addColumn<QString>("stored"); // the marks of the three pages
+    QTest::newRow("ticked") << u"May 1"_s << u"PM"_s << 1 << u"T T T"_s;
+    QTest::newRow("cleared: the first of two") << u"May 2"_s << u"AM"_s << 0 << u"F F T"_s;
+    QTest::newRow("no such page") << u"May 9"_s << u"AM"_s << 1 << u"F T T"_s;
+    QTest::newRow("no date") << QString() << u"AM"_s << 0 << u"F T T"_s;
+}
+
+void TestReader::searchFavouriteSavesTheFirstPage()
+{
+    QFETCH(QString, dt);
+    QFETCH(QString, ampm);
+    QFETCH(int, checkState);
+    QFETCH(QString, stored);
+    TestEnvironment environment;
+    insertPages({u"May 1|PM|5|1|1|F|a"_s, u"May 2|AM|5|2|2|T|b"_s, u"May 2|AM|5|2|3|T|c"_s});
+    select(ampm, dt, u"a"_s);
+    SearchViewController controller;
     controller.viewDidLoad();
-    environment.logLines.clear();
-    controller.FacebookShare();
-    QCOMPARE(Sharing::shared().text(), u"Body"_s);
-    Sharing::shared().sheetPresented();
+    controller.FavoriteCheckBoxChecked(checkState);
+    QCOMPARE(Selection::shared().selectedFavorite(), checkState == 1 ? u"T"_s : u"F"_s);
+    QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}).join(u' '), stored);
+}
+
+void TestReader::searchShare_data()
+{
+    QTest::addColumn<bool>("canSend");
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<QString>("shared");
+    QTest::newRow("morning") << true << u"AM"_s
+                             << u"From The Larkwells \r\n Good Morning \r\n \r\nMay 1\r\n \r\n"
+                                "\n\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s;
+    QTest::newRow("neither: nothing") << true << u"x"_s << QString();
+    QTest::newRow("no text messages: the alert") << false << u"AM"_s << QString();
+}
+
+// Unlike the page reader's, this alert has no full stop and no button.
+void TestReader::searchShare()
+{
+    QFETCH(bool, canSend);
+    QFETCH(QString, ampm);
+    QFETCH(QString, shared);
+    TestEnvironment environment;
+    Sharing::shared().setCanSendTextForTesting(canSend);
+    select(ampm);
+    SearchViewController controller;
+    controller.viewDidLoad();
+    controller.ShareButtonClicked();
+    QCOMPARE(Sharing::shared().text(), shared);
+    QCOMPARE(Alerts::shared().showing(), !canSend);
+    if (!canSend) {
+        QCOMPARE((QStringList{Alerts::shared().title(), Alerts::shared().message()}),
+                 (QStringList{u"Can't Send Text Message"_s, u"Your Device is not able to send text messages"_s}));
+        QCOMPARE(Alerts::shared().buttons(), QStringList());
+        Alerts::shared().dismiss(0);
+    }
     Sharing::shared().cancel();
-    controller.FacebookShare();
-    Sharing::shared().sheetPresented();
-    Sharing::shared().copyToClipboard();
-    QCOMPARE(environment.logLines, (QStringList{u"presented"_s, u"canceled"_s, u"presented"_s, u"completed"_s}));
+    Sharing::shared().setCanSendTextForTesting(std::nullopt);
 }
 
 QTEST_MAIN(TestReader)
