@@ -6,7 +6,6 @@
 #include "TestSupport.h"
 #include "UserDefaults.h"
 #include "ViewController.h"
-#include "Wallpapers.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -24,10 +23,16 @@ void select(const QString &ampm, const QString &dt = u"May 1"_s, const QString &
     selection.setSelectedSearchText(search);
     selection.setSelectedFavorite(u"F"_s);
 }
+
+// The look as "colour size wallpaper", or "plain" for the laid-out text view.
+QString look(const ReaderAppearance &appearance)
+{
+    return appearance.styled() ? u"%1 %2 %3"_s.arg(appearance.textColor().name()).arg(appearance.fontSize()).arg(appearance.wallpaper().fileName())
+                               : u"plain"_s;
+}
 }
 
 // The page reader and the search-result reader.
-
 class TestReader : public QObject
 {
     Q_OBJECT
@@ -40,17 +45,13 @@ private Q_SLOTS:
     void favouriteSavesExactlyOnePage_data();
     void favouriteSavesExactlyOnePage();
     void stepperMovesOnePoint();
-    void wallpaperDrawBounds_data();
-    void wallpaperDrawBounds();
-    void shareGate_data();
-    void shareGate();
+    void share_data();
+    void share();
     void searchComposesAndMarks_data();
     void searchComposesAndMarks();
     void searchInvalidPatternStops();
     void searchFavouriteSavesTheFirstPage_data();
     void searchFavouriteSavesTheFirstPage();
-    void searchShare_data();
-    void searchShare();
 };
 
 void TestReader::composesHeadingDateAndText_data()
@@ -75,16 +76,15 @@ void TestReader::composesHeadingDateAndText()
     QCOMPARE(controller.title(), title);
     QCOMPARE(controller.PoemPrayerText(), text);
     QCOMPARE(Selection::shared().selectedPoemPrayer(), text);
-    QCOMPARE(UserDefaults::standard().integerForKey(u"reviewWorthyActionCount"_s), 1); // the review rule ran
 }
 
 void TestReader::appearanceFromPreferences_data()
 {
     QTest::addColumn<QVariantMap>("preferences");
-    QTest::addColumn<QString>("shown"); // "colour size wallpaper", "plain", or the fatal stop's message
+    QTest::addColumn<QString>("shown"); // the look, or the fatal stop's message
     QTest::newRow("blue, larger, with wallpaper")
         << QVariantMap{{u"textColor"_s, 3}, {u"ReaderFontSize"_s, 21.0}, {u"useWallpaper"_s, 1}, {u"FontName"_s, u"EB Garamond"_s}}
-        << u"#0000ff 21 Page1.jpg"_s;
+        << u"#0000ff 21 Page1.jpg"_s; // no wallpaper keys yet: the first one
     QTest::newRow("whole size stored as integer") << QVariantMap{{u"ReaderFontSize"_s, 17}} << u"#000000 17 "_s;
     QTest::newRow("colour code 7 keeps the laid-out text view") << QVariantMap{{u"textColor"_s, 7}} << u"plain"_s;
     QTest::newRow("unknown font") << QVariantMap{{u"FontName"_s, u"Nowhere Sans Imaginary"_s}}
@@ -103,15 +103,8 @@ void TestReader::appearanceFromPreferences()
     select(u"AM"_s);
     ViewController controller;
     const QString stop = fatalStop([&] { controller.viewDidLoad(); });
-    if (!stop.isEmpty()) {
-        QCOMPARE(stop, shown);
-        return;
-    }
-    const ReaderAppearance &look = *controller.appearance();
-    QCOMPARE(controller.PoemPrayerText().isEmpty(), !look.styled());
-    QCOMPARE(look.styled() ? u"%1 %2 %3"_s.arg(look.textColor().name()).arg(look.fontSize()).arg(look.wallpaper().fileName())
-                           : u"plain"_s,
-             shown);
+    QCOMPARE(stop.isEmpty() ? look(*controller.appearance()) : stop, shown);
+    QCOMPARE(controller.PoemPrayerText().isEmpty(), stop.isEmpty() == (shown == u"plain")); // nothing laid out
 }
 
 void TestReader::favouriteSavesExactlyOnePage_data()
@@ -158,71 +151,54 @@ void TestReader::stepperMovesOnePoint()
     QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 20.0);
 }
 
-void TestReader::wallpaperDrawBounds_data()
+void TestReader::share_data()
 {
-    QTest::addColumn<int>("firstBound");
-    QTest::addColumn<QStringList>("unused"); // names set to "false"; all others "true", or no keys at all for "fresh"
-    QTest::addColumn<QList<int>>("draws");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QList<int>>("bounds");
-    QTest::newRow("reader's first draw reaches the last") << 35 << QStringList() << QList<int>{34} << 34 << QList<int>{35};
-    QTest::newRow("redraws stop short of the last") << 35 << QStringList{u"Page3"_s} << QList<int>{2, 33} << 33
-                                                    << QList<int>{35, 34};
-    QTest::newRow("list draws never reach the last") << 34 << QStringList{u"Page1"_s, u"Page2"_s} << QList<int>{0, 1, 5}
-                                                     << 5 << QList<int>{34, 34, 34};
-    QTest::newRow("a name without a key keeps the start") << 35 << QStringList{u"fresh"_s} << QList<int>{9} << 0
-                                                          << QList<int>{35};
-}
-
-void TestReader::wallpaperDrawBounds()
-{
-    QFETCH(int, firstBound);
-    QFETCH(QStringList, unused);
-    QFETCH(QList<int>, draws);
-    QFETCH(int, index);
-    QFETCH(QList<int>, bounds);
-    TestEnvironment environment;
-    if (!unused.contains(u"fresh"_s))
-        Wallpapers::enableUnsetWallpapers();
-    for (const QString &name : unused)
-        UserDefaults::standard().set(name, u"false"_s);
-    QList<int> asked;
-    const auto uniform = [&](int bound) { asked.append(bound); return draws.takeFirst(); };
-    QCOMPARE(Wallpapers::draw(Wallpapers::ViewerWallpaper(), firstBound, 0, uniform), index);
-    QCOMPARE(asked, bounds);
-}
-
-void TestReader::shareGate_data()
-{
+    QTest::addColumn<bool>("search"); // the search-result reader, else the page reader
     QTest::addColumn<bool>("canSendText");
     QTest::addColumn<QString>("ampm");
-    QTest::addColumn<bool>("sheet");
-    QTest::newRow("no text messages: alert, never the sheet") << false << u"AM"_s << false;
-    QTest::newRow("morning page") << true << u"AM"_s << true;
-    QTest::newRow("night page") << true << u"PM"_s << true;
-    QTest::newRow("neither: nothing") << true << u"x"_s << false;
+    QTest::addColumn<QString>("shared");
+    QTest::addColumn<QString>("alert"); // title, message, buttons
+    const QString title = u"Can't Send Text Message|Your Device is not able to send text messages"_s;
+    QTest::newRow("page: no text messages") << false << false << u"AM"_s << QString() << title + u".|OK"_s;
+    QTest::newRow("page: the text as it stands") << false << true << u"PM"_s << u"edited, not saved"_s << QString();
+    QTest::newRow("page: neither morning nor night") << false << true << u"x"_s << QString() << QString();
+    QTest::newRow("search: no text messages") << true << false << u"AM"_s << QString() << title + u"|"_s;
+    QTest::newRow("search: a heading before the text") << true << true << u"AM"_s
+        << u"From The Larkwells \r\n Good Morning \r\n \r\nMay 1\r\n \r\n\n\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s
+        << QString();
+    QTest::newRow("search: neither morning nor night") << true << true << u"x"_s << QString() << QString();
 }
 
-void TestReader::shareGate()
+void TestReader::share()
 {
+    QFETCH(bool, search);
     QFETCH(bool, canSendText);
     QFETCH(QString, ampm);
-    QFETCH(bool, sheet);
+    QFETCH(QString, shared);
+    QFETCH(QString, alert);
     TestEnvironment environment;
     Sharing::shared().setCanSendTextForTesting(canSendText);
     select(ampm);
-    ViewController controller;
-    controller.viewDidLoad();
-    controller.setPoemPrayerText(u"edited, not saved"_s);
-    QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
-    controller.SharePoem();
-    QCOMPARE(alerts.wait(100), !canSendText); // the alert comes on the next turn of the event loop
-    if (!canSendText) {
-        QCOMPARE(alerts.first(), (QVariantList{u"Can't Send Text Message"_s, u"Your Device is not able to send text messages."_s}));
-        QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+    std::unique_ptr<QObject> reader;
+    if (search) {
+        auto *controller = new SearchViewController;
+        reader.reset(controller);
+        controller->viewDidLoad();
+        controller->ShareButtonClicked();
+    } else {
+        auto *controller = new ViewController;
+        reader.reset(controller);
+        controller->viewDidLoad();
+        controller->setPoemPrayerText(u"edited, not saved"_s);
+        controller->SharePoem();
+    }
+    QTRY_COMPARE(Alerts::shared().showing(), !alert.isEmpty());
+    if (!alert.isEmpty()) {
+        QCOMPARE((QStringList{Alerts::shared().title(), Alerts::shared().message(), Alerts::shared().buttons().join(u',')}),
+                 alert.split(u'|'));
         Alerts::shared().dismiss(0);
     }
-    QCOMPARE(Sharing::shared().showing() ? Sharing::shared().text() : QString(), sheet ? u"edited, not saved"_s : QString());
+    QCOMPARE(Sharing::shared().showing() ? Sharing::shared().text() : QString(), shared);
     Sharing::shared().cancel();
     Sharing::shared().setCanSendTextForTesting(std::nullopt);
 }
@@ -232,25 +208,25 @@ void TestReader::searchComposesAndMarks_data()
     QTest::addColumn<QString>("ampm");
     QTest::addColumn<QString>("search");
     QTest::addColumn<int>("colour");
-    QTest::addColumn<QString>("shown"); // "" for the morning heading and the text
+    QTest::addColumn<QString>("heading"); // before the text
     QTest::addColumn<QStringList>("marked");
-    QTest::addColumn<QString>("look"); // the text colour, or "plain"
-    const QString heading = u"\n\nFrom The Larkwells\n Good Night\n\nJanuary 1\n\n"_s;
-    QTest::newRow("no search: red, nothing marked") << u"AM"_s << QString() << 2 << QString() << QStringList() << u"#b00000"_s;
-    QTest::newRow("every case marked, black over red") << u"AM"_s << u"snow"_s << 2 << QString()
-                                                       << QStringList{u"Snow"_s, u"SNOW"_s} << u"#000000"_s;
-    QTest::newRow("heading and date line marked") << u"PM"_s << u"n"_s << 0 << heading
-                                                  << QStringList{u"N"_s, u"n"_s, u"n"_s, u"n"_s, u"N"_s} << u"#000000"_s;
-    QTest::newRow("a full stop is any letter") << u"AM"_s << u"s.ll"_s << 1 << QString() << QStringList{u"sill"_s}
-                                               << u"#000000"_s;
-    QTest::newRow("markup characters are text") << u"AM"_s << u"<bread>"_s << 0 << QString()
-                                                << QStringList{u"<bread>"_s} << u"#000000"_s;
-    QTest::newRow("no match: the plain style") << u"AM"_s << u"zebra"_s << 3 << QString() << QStringList() << u"plain"_s;
-    QTest::newRow("colour code 7, match: shown black") << u"AM"_s << u"sill"_s << 7 << QString()
-                                                       << QStringList{u"sill"_s} << u"#000000"_s;
-    QTest::newRow("colour code 7, no search: empty") << u"AM"_s << QString() << 7 << u"-"_s << QStringList() << u"plain"_s;
-    QTest::newRow("neither morning nor night: the text alone") << u"am"_s << u"bread"_s << 0 << u"+"_s
-                                                               << QStringList{u"bread"_s} << u"#000000"_s;
+    QTest::addColumn<QString>("look");
+    const QString morning = u"\n\nFrom The Larkwells\n Good Morning\n\nJanuary 1\n\n"_s;
+    QTest::newRow("no search: red, nothing marked") << u"AM"_s << QString() << 2 << morning << QStringList() << u"#b00000 15 "_s;
+    QTest::newRow("every case marked, black over red") << u"AM"_s << u"snow"_s << 2 << morning
+                                                       << QStringList{u"Snow"_s, u"SNOW"_s} << u"#000000 15 "_s;
+    QTest::newRow("heading and date line marked") << u"PM"_s << u"n"_s << 0
+                                                  << u"\n\nFrom The Larkwells\n Good Night\n\nJanuary 1\n\n"_s
+                                                  << QStringList{u"N"_s, u"n"_s, u"n"_s, u"n"_s, u"N"_s} << u"#000000 15 "_s;
+    QTest::newRow("markup characters are text") << u"AM"_s << u"<bread>"_s << 0 << morning << QStringList{u"<bread>"_s}
+                                                << u"#000000 15 "_s;
+    QTest::newRow("no match: the plain style") << u"AM"_s << u"zebra"_s << 3 << morning << QStringList() << u"plain"_s;
+    QTest::newRow("colour code 7, match: shown black") << u"AM"_s << u"sill"_s << 7 << morning << QStringList{u"sill"_s}
+                                                       << u"#000000 15 "_s;
+    QTest::newRow("colour code 7, no search: nothing shown") << u"AM"_s << QString() << 7 << u"-"_s << QStringList()
+                                                             << u"plain"_s;
+    QTest::newRow("neither morning nor night: the text alone") << u"am"_s << u"bread"_s << 0 << QString()
+                                                               << QStringList{u"bread"_s} << u"#000000 15 "_s;
 }
 
 void TestReader::searchComposesAndMarks()
@@ -258,12 +234,11 @@ void TestReader::searchComposesAndMarks()
     QFETCH(QString, ampm);
     QFETCH(QString, search);
     QFETCH(int, colour);
-    QFETCH(QString, shown);
+    QFETCH(QString, heading);
     QFETCH(QStringList, marked);
     QFETCH(QString, look);
     const QString body = u"Snow on the sill,  SNOW & <bread>"_s;
-    shown = shown.isEmpty() ? u"\n\nFrom The Larkwells\n Good Morning\n\nJanuary 1\n\n"_s + body
-          : shown == u"-" ? QString() : shown == u"+" ? body : shown + body;
+    const QString shown = heading == u"-" ? QString() : heading + body;
     TestEnvironment environment;
     UserDefaults::standard().set(u"textColor"_s, colour);
     select(ampm, u"January 1"_s, body, search);
@@ -276,7 +251,7 @@ void TestReader::searchComposesAndMarks()
     document.setHtml(controller.PoemPrayerText());
     QCOMPARE(document.toPlainText(), shown);
     QCOMPARE(markedFragments(document), marked);
-    QCOMPARE(controller.appearance()->styled() ? controller.appearance()->textColor().name() : u"plain"_s, look);
+    QCOMPARE(::look(*controller.appearance()), look);
 }
 
 void TestReader::searchInvalidPatternStops()
@@ -297,7 +272,6 @@ void TestReader::searchFavouriteSavesTheFirstPage_data()
     QTest::newRow("ticked") << u"May 1"_s << u"PM"_s << 1 << u"T T T"_s;
     QTest::newRow("cleared: the first of two") << u"May 2"_s << u"AM"_s << 0 << u"F F T"_s;
     QTest::newRow("no such page") << u"May 9"_s << u"AM"_s << 1 << u"F T T"_s;
-    QTest::newRow("no date") << QString() << u"AM"_s << 0 << u"F T T"_s;
 }
 
 void TestReader::searchFavouriteSavesTheFirstPage()
@@ -314,42 +288,6 @@ void TestReader::searchFavouriteSavesTheFirstPage()
     controller.FavoriteCheckBoxChecked(checkState);
     QCOMPARE(Selection::shared().selectedFavorite(), checkState == 1 ? u"T"_s : u"F"_s);
     QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}).join(u' '), stored);
-}
-
-void TestReader::searchShare_data()
-{
-    QTest::addColumn<bool>("canSend");
-    QTest::addColumn<QString>("ampm");
-    QTest::addColumn<QString>("shared");
-    QTest::newRow("morning") << true << u"AM"_s
-                             << u"From The Larkwells \r\n Good Morning \r\n \r\nMay 1\r\n \r\n"
-                                "\n\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s;
-    QTest::newRow("neither: nothing") << true << u"x"_s << QString();
-    QTest::newRow("no text messages: the alert") << false << u"AM"_s << QString();
-}
-
-// Unlike the page reader's, this alert has no full stop and no button.
-void TestReader::searchShare()
-{
-    QFETCH(bool, canSend);
-    QFETCH(QString, ampm);
-    QFETCH(QString, shared);
-    TestEnvironment environment;
-    Sharing::shared().setCanSendTextForTesting(canSend);
-    select(ampm);
-    SearchViewController controller;
-    controller.viewDidLoad();
-    controller.ShareButtonClicked();
-    QCOMPARE(Sharing::shared().text(), shared);
-    QCOMPARE(Alerts::shared().showing(), !canSend);
-    if (!canSend) {
-        QCOMPARE((QStringList{Alerts::shared().title(), Alerts::shared().message()}),
-                 (QStringList{u"Can't Send Text Message"_s, u"Your Device is not able to send text messages"_s}));
-        QCOMPARE(Alerts::shared().buttons(), QStringList());
-        Alerts::shared().dismiss(0);
-    }
-    Sharing::shared().cancel();
-    Sharing::shared().setCanSendTextForTesting(std::nullopt);
 }
 
 QTEST_MAIN(TestReader)
