@@ -21,12 +21,6 @@ QByteArray golden(const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing golden file");
 }
 
-QByteArray backupNow()
-{
-    return WritingBackup::toJson(
-        WritingBackup::collect(AppDelegate::shared().viewContext(), WritingBackup::shippedPageTexts()));
-}
-
 void setPage(int month, int day, const QString &ampm, const std::optional<QString> &favorite,
              const std::optional<QString> &text)
 {
@@ -70,31 +64,22 @@ class TestWritingBackup : public QObject
 
 private Q_SLOTS:
     void cleanup() { dismissAlerts(); }
-    void backupMatchesGoldenFileAndRestoresToIt();
+    void backupMatchesGoldenFile();
     void refusedFilesWriteNothing_data();
     void refusedFilesWriteNothing();
     void restoreMerges_data();
     void restoreMerges();
 };
 
-void TestWritingBackup::backupMatchesGoldenFileAndRestoresToIt()
+// Restoring it is the window test's round trip.
+void TestWritingBackup::backupMatchesGoldenFile()
 {
-    const QString expected = QString::fromUtf8(golden(u"writing.json"_s));
-    {
-        TestEnvironment environment;
-        shipSmallBook(environment);
-        writeSomeWriting();
-        QCOMPARE(QString::fromUtf8(backupNow()), expected);
-    }
-    // Restored onto a fresh book, the same writing backs up the same way.
     TestEnvironment environment;
     shipSmallBook(environment);
-    seedSmallBook();
-    ExportLarkwellFilesViewController menu;
-    QCOMPARE(pick(menu, goldenPath(u"writing.json"_s)), u"2 notes, 2 favourites, 2 pages, 1 article will be restored"_s);
-    Alerts::shared().dismiss(1);
-    QCOMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
-    QCOMPARE(QString::fromUtf8(backupNow()), expected);
+    writeSomeWriting();
+    QCOMPARE(QString::fromUtf8(WritingBackup::toJson(WritingBackup::collect(AppDelegate::shared().viewContext(),
+                                                                            WritingBackup::shippedPageTexts()))),
+             QString::fromUtf8(golden(u"writing.json"_s)));
 }
 
 void TestWritingBackup::refusedFilesWriteNothing_data()
@@ -115,10 +100,6 @@ void TestWritingBackup::refusedFilesWriteNothing_data()
         << head + R"("pages": [{"month": 1, "day": 1, "ampm": "AM", "poemprayer": "x"},
                                {"month": 13, "day": 1, "ampm": "AM", "poemprayer": "x"}], "articles": []})"
         << damaged.arg(u"page 2 has a month that is not a number from 1 to 12"_s);
-    QTest::newRow("neither morning nor night")
-        << QByteArray(R"({"format": "LarkwellsWriting", "version": 1, "notes": [],
-                          "favorites": [{"month": 1, "day": 1, "ampm": "Noon"}], "pages": [], "articles": []})")
-        << damaged.arg(u"favourite 1 has an ampm that is neither AM nor PM"_s);
     QTest::newRow("note with a wrong date")
         << QByteArray(R"({"format": "LarkwellsWriting", "version": 1, "favorites": [], "pages": [], "articles": [],
                           "notes": [{"subject": "a", "dt": "yesterday"}]})")
@@ -135,8 +116,7 @@ void TestWritingBackup::refusedFilesWriteNothing()
     const QStringList before = storedWriting();
     QTemporaryDir folder;
     QFile picked(folder.filePath(u"picked.json"_s));
-    QVERIFY(picked.open(QIODevice::WriteOnly) && picked.write(file) == file.size());
-    picked.close();
+    QVERIFY(picked.open(QIODevice::WriteOnly) && picked.write(file) == file.size() && picked.flush());
 
     ExportLarkwellFilesViewController menu;
     QCOMPARE(pick(menu, picked.fileName()), message);
@@ -183,19 +163,17 @@ void TestWritingBackup::restoreMerges()
     shipSmallBook(environment);
     seedSmallBook();
     Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, aboutListOpened);
-    if (!aboutListOpened) {
-        ManagedObjectContext &context = AppDelegate::shared().viewContext();
-        for (About *article : context.fetch<About>(About::fetchRequest()))
-            context.deleteObject(article);
-        context.save();
-    }
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    About *welcome = context.fetch<About>(About::fetchRequest()).first();
+    if (!aboutListOpened)
+        context.deleteObject(welcome);
+    else if (changedHere)
+        welcome->setAboutText(u"My welcome"_s);
+    context.save();
     insertNotes(notesHere);
     if (changedHere) {
         setPage(1, 2, u"AM"_s, u"T"_s, {});
         setPage(1, 1, u"PM"_s, {}, u"My own lamp"_s);
-        ManagedObjectContext &context = AppDelegate::shared().viewContext();
-        context.fetch<About>(About::fetchRequest()).first()->setAboutText(u"My welcome"_s);
-        context.save();
     }
 
     // Cancelled first: nothing written, no snapshot taken.

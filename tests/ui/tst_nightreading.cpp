@@ -115,8 +115,9 @@ void TestNightReading::textOverEveryWallpaper()
         }
         const auto nth = luminances.begin() + std::ptrdiff_t(luminances.size() / 20);
         std::nth_element(luminances.begin(), nth, luminances.end());
-        const double text = day ? Art::luminance(day->rgb()) : 0;
-        worstDay = std::min(worstDay, (std::max(text, *nth) + 0.05) / (std::min(text, *nth) + 0.05));
+        const double text = Art::luminance(day.value_or(QColor()).rgb());
+        if (day)
+            worstDay = std::min(worstDay, (std::max(text, *nth) + 0.05) / (std::min(text, *nth) + 0.05));
     }
     qInfo("%s: lowest contrast %.2f:1 by day, %.2f:1 by night", QTest::currentDataTag(), worstDay, worstNight);
     QVERIFY(!day || worstDay >= 4.5);
