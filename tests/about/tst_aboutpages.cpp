@@ -1,4 +1,4 @@
-#include "AboutRows.h"
+#include "PageRows.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 

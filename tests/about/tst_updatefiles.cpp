@@ -1,5 +1,5 @@
 #include "AboutImportViewController.h"
-#include "AboutRows.h"
+#include "PageRows.h"
 #include "Alerts.h"
 #include "FatalError.h"
 #include "PageFileWriter.h"

@@ -1,7 +1,6 @@
 #include "AboutImportUndo.h"
-#include "AboutRows.h"
-#include "Alerts.h"
 #include "PageRows.h"
+#include "Alerts.h"
 #include "TestSupport.h"
 
 #include <QQmlApplicationEngine>

@@ -18,18 +18,12 @@ inline void shipSmallBook(TestEnvironment &environment)
     environment.addBundleFile(QStringLiteral("About.txt"), "[ABOUT]\nWelcome^Read a page a day.@#@Keep it.\n");
 }
 
-// Articles as "name|text".
-inline void insertArticles(const QStringList &rows)
-{
-    insertRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")}, rows);
-}
-
 inline void seedSmallBook()
 {
     insertPages({QStringLiteral("January 1|AM|1|1|1|F|Frost on the gate\nand a kettle singing"),
                  QStringLiteral("January 1|PM|1|1|2|F|The lamp is low"),
                  QStringLiteral("January 2|AM|1|2|3|F|Bread and a blue cup")});
-    insertArticles({QStringLiteral("Welcome|Read a page a day.\nKeep it.")});
+    insertAbouts({QStringLiteral("Welcome|Read a page a day.\nKeep it.")});
 }
 
 // Notes as "subject|text|ISO date", written straight into the store.

@@ -45,7 +45,7 @@ void writeSomeWriting()
     setPage(1, 1, u"PM"_s, {}, u"The lamp is low\nand the door is shut"_s);
     setPage(1, 2, u"AM"_s, u"T"_s, u"Bread and a blue cup\n“Stay,” she said."_s);
     insertNotes({u"Snow day|Walked to the lake\nthen home|2026-01-01T08:00:00Z"_s, u"Évening|Quiet|2026-01-01T21:30:00Z"_s});
-    insertArticles({u"My Prayer|Hold this house.\nKeep the lamp lit."_s});
+    insertAbouts({u"My Prayer|Hold this house.\nKeep the lamp lit."_s});
 }
 
 // The menu's restore, as the picker hands it a file; the alert it raised.

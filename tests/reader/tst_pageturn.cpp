@@ -84,10 +84,10 @@ qint64 reviewCount()
 QQuickWindow *openReader(QQmlApplicationEngine &engine, const QString &coverButton, const QString &segment, int row)
 {
     QQuickWindow *window = openFromCover(engine, coverButton, u"MainTableView"_s);
+    if (window && !segment.isEmpty())
+        click(window, waitForItem(window, segment));
     if (!window)
         return nullptr;
-    if (!segment.isEmpty())
-        click(window, waitForItem(window, segment));
     click(window, waitForItem(window, u"row-%1"_s.arg(row)));
     return QTest::qWaitFor([&] { return topPage(window) == u"View"_s; }) ? window : nullptr;
 }
@@ -95,51 +95,43 @@ QQuickWindow *openReader(QQmlApplicationEngine &engine, const QString &coverButt
 
 void TestPageTurn::turnInPageList_data()
 {
-    QTest::addColumn<QString>("coverButton");
-    QTest::addColumn<QString>("segment");
-    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("route"); // the cover's button, the list's segment, the row opened
     QTest::addColumn<QString>("how");
     QTest::addColumn<int>("direction");
-    QTest::addColumn<QString>("page");      // the page turned to: dt|ampm|month|day|pagenum|favorite
-    QTest::addColumn<int>("listRow");       // its row in the list, back there
-    QTest::addColumn<bool>("hasPrevious");  // after the turn
-    QTest::addColumn<bool>("hasNext");
-
+    QTest::addColumn<QString>("page");    // the page turned to: dt|ampm|month|day|pagenum|favorite
+    QTest::addColumn<int>("listRow");     // its row in the list, back there
+    QTest::addColumn<QString>("arrows");  // enabled after the turn: "<" previous, ">" next
     QTest::newRow("today, to the night page by the arrow")
-        << u"TodayButton"_s << QString() << 0 << u"button"_s << 1 << u"January 1|PM|1|1|2|T"_s << 1 << true << false;
+        << u"TodayButton - 0"_s << u"button"_s << 1 << u"January 1|PM|1|1|2|T"_s << 1 << u"<"_s;
     QTest::newRow("all, across a day by the key")
-        << u"TodayButton"_s << u"segment-All"_s << 1 << u"key"_s << 1 << u"January 2|AM|1|2|3|T"_s << 2 << true << true;
+        << u"TodayButton segment-All 1"_s << u"key"_s << 1 << u"January 2|AM|1|2|3|T"_s << 2 << u"<>"_s;
     QTest::newRow("all, back to the first page by a swipe")
-        << u"TodayButton"_s << u"segment-All"_s << 1 << u"swipe"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << false << true;
+        << u"TodayButton segment-All 1"_s << u"swipe"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << u">"_s;
     QTest::newRow("mornings skip the nights")
-        << u"GoodMorningButton"_s << QString() << 1 << u"key"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << false << true;
+        << u"GoodMorningButton - 1"_s << u"key"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << u">"_s;
     QTest::newRow("nights skip the mornings")
-        << u"GoodNightButton"_s << QString() << 0 << u"swipe"_s << 1 << u"January 2|PM|1|2|4|F"_s << 1 << true << false;
-    QTest::newRow("favourites only")
-        << u"FavoritesButton"_s << QString() << 0 << u"button"_s << 1 << u"January 2|AM|1|2|3|T"_s << 1 << true << false;
+        << u"GoodNightButton - 0"_s << u"swipe"_s << 1 << u"January 2|PM|1|2|4|F"_s << 1 << u"<"_s;
+    QTest::newRow("favourites only") << u"FavoritesButton - 0"_s << u"button"_s << 1 << u"January 2|AM|1|2|3|T"_s << 1 << u"<"_s;
 }
 
 void TestPageTurn::turnInPageList()
 {
-    QFETCH(QString, coverButton);
-    QFETCH(QString, segment);
-    QFETCH(int, row);
+    QFETCH(QString, route);
     QFETCH(QString, how);
     QFETCH(int, direction);
     QFETCH(QString, page);
     QFETCH(int, listRow);
-    QFETCH(bool, hasPrevious);
-    QFETCH(bool, hasNext);
+    QFETCH(QString, arrows);
     TestEnvironment environment;
     Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(21, 0)); });
-    UserDefaults &defaults = UserDefaults::standard();
     // A wallpaper drawn at random, so that a second draw would show.
-    defaults.set(u"useWallpaper"_s, 1);
+    UserDefaults::standard().set(u"useWallpaper"_s, 1);
     for (int i = 1; i <= 35; ++i)
-        defaults.set(u"Page%1"_s.arg(i), u"true"_s);
+        UserDefaults::standard().set(u"Page%1"_s.arg(i), u"true"_s);
     insertPages(pages);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = openReader(engine, coverButton, segment, row);
+    const QStringList steps = route.split(u' ');
+    QQuickWindow *window = openReader(engine, steps[0], steps[1] == u"-" ? QString() : steps[1], steps[2].toInt());
     QVERIFY(window);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
     const QUrl wallpaper = visible(window, u"img"_s)->property("source").toUrl();
@@ -147,28 +139,26 @@ void TestPageTurn::turnInPageList()
 
     turn(window, how, direction);
     const QStringList expected = page.split(u'|');
-    const QString body = pages.filter(page).first().section(u'|', 6);
-    const QString greeting = expected[1] == u"AM" ? u" Good Morning"_s : u" Good Night"_s;
-    const QString composed = u"\nFrom The Larkwells\n"_s + greeting + u"\n\n"_s + expected[0] + u"\n\n"_s + body;
+    const QString composed = u"\nFrom The Larkwells\n %1\n\n%2\n\n%3"_s.arg(expected[1] == u"AM" ? u"Good Morning"_s : u"Good Night"_s,
+                                                                           expected[0], pages.filter(page).first().section(u'|', 6));
     QTRY_COMPARE(text->property("text").toString(), composed);
-
     QCOMPARE(selectedPage(), page);
     QCOMPARE(Selection::shared().selectedPoemPrayer(), composed);
     QCOMPARE(reviewCount(), reviewsBefore + 1); // the review rule ran for the new page
     QCOMPARE(visible(window, u"img"_s)->property("source").toUrl(), wallpaper);
     QTRY_COMPARE(visible(window, u"FavoriteCheckBox"_s)->property("checkState").toInt(), expected[5] == u"T" ? 1 : 0);
-    QCOMPARE(visible(window, u"PreviousPageButton"_s)->isEnabled(), hasPrevious);
-    QCOMPARE(visible(window, u"NextPageButton"_s)->isEnabled(), hasNext);
+    QCOMPARE(QString(visible(window, u"PreviousPageButton"_s)->isEnabled() ? u"<"_s : u""_s)
+                 + (visible(window, u"NextPageButton"_s)->isEnabled() ? u">"_s : u""_s),
+             arrows);
 
     // At the end, neither the key nor a swipe goes further.
-    if (!hasNext || !hasPrevious) {
-        const int beyond = hasNext ? -1 : 1;
+    if (arrows != u"<>") {
+        const int beyond = arrows == u">" ? -1 : 1;
         QTest::keyClick(window, beyond < 0 ? Qt::Key_Left : Qt::Key_Right);
         swipe(window, beyond);
         QTest::qWait(100);
         QCOMPARE(selectedPage(), page);
     }
-
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), listRow);
