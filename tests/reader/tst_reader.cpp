@@ -1,4 +1,7 @@
 #include "Alerts.h"
+#include "EditSpecialDaysViewController.h"
+#include "Navigator.h"
+#include "PagePicture.h"
 #include "PageRows.h"
 #include "SearchViewController.h"
 #include "Selection.h"
@@ -6,6 +9,7 @@
 #include "TestSupport.h"
 #include "UserDefaults.h"
 #include "ViewController.h"
+#include "Wallpapers.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -24,6 +28,42 @@ void select(const QString &ampm, const QString &dt = u"May 1"_s, const QString &
     selection.setSelectedFavorite(u"F"_s);
 }
 
+// Where the ink of `color` lies in the picture: its bounding box and how many pixels carry it.
+struct Ink {
+    QRect box;
+    int pixels = 0;
+};
+Ink inkOf(const QImage &picture, const QColor &color, int tolerance = 40)
+{
+    Ink ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb p = picture.pixel(x, y);
+            if (std::max({std::abs(qRed(p) - color.red()), std::abs(qGreen(p) - color.green()), std::abs(qBlue(p) - color.blue())})
+                <= tolerance)
+                std::tie(ink.pixels, ink.box) = std::tuple(ink.pixels + 1, ink.box | QRect(x, y, 1, 1));
+        }
+    }
+    return ink;
+}
+
+// The reader's picture of `text` under the stored settings.
+QImage pictureOf(const QString &text)
+{
+    select(u"AM"_s, u"May 2"_s, text);
+    ViewController reader;
+    reader.viewDidLoad();
+    return PagePicture::render(reader.PoemPrayerText(), *reader.appearance()).convertToFormat(QImage::Format_RGB32);
+}
+
+void selectSpecialDay(const QString &ampm, const QString &poem)
+{
+    Selection &selection = Selection::shared();
+    selection.setSelectedSpecialAmpm(ampm);
+    selection.setSelectedSpecialDayName(u"Easter"_s);
+    selection.setSelectedSpecialPoem(poem);
+}
+
 // The look as "colour size wallpaper", or "plain" for the laid-out text view.
 QString look(const ReaderAppearance &appearance)
 {
@@ -32,7 +72,7 @@ QString look(const ReaderAppearance &appearance)
 }
 }
 
-// The page reader and the search-result reader.
+// The page, search-result and special-day readers, and the picture of a page.
 class TestReader : public QObject
 {
     Q_OBJECT
@@ -52,6 +92,12 @@ private Q_SLOTS:
     void searchInvalidPatternStops();
     void searchFavouriteSavesTheFirstPage_data();
     void searchFavouriteSavesTheFirstPage();
+    void specialDayComposesAndStyles_data();
+    void specialDayComposesAndStyles();
+    void specialDaySaveWritesOnlyForHeadingWords_data();
+    void specialDaySaveWritesOnlyForHeadingWords();
+    void pictureDrawsThePageAsTheReaderShowsIt_data();
+    void pictureDrawsThePageAsTheReaderShowsIt();
 };
 
 void TestReader::composesHeadingDateAndText_data()
@@ -288,6 +334,119 @@ void TestReader::searchFavouriteSavesTheFirstPage()
     controller.FavoriteCheckBoxChecked(checkState);
     QCOMPARE(Selection::shared().selectedFavorite(), checkState == 1 ? u"T"_s : u"F"_s);
     QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}).join(u' '), stored);
+}
+
+void TestReader::specialDayComposesAndStyles_data()
+{
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<QVariantMap>("preferences");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("look"); // colour, size, wallpaper
+    QTest::newRow("morning: a blank before the name; 17 points")
+        << u"AM"_s << QVariantMap() << u"Good Morning\n\n Easter\n\nRisen\nindeed"_s << u"#000000 17 "_s;
+    QTest::newRow("night: no blank; stored size, red, wallpaper")
+        << u"PM"_s << QVariantMap{{u"ReaderFontSize"_s, 22.0}, {u"textColor"_s, 2}, {u"useWallpaper"_s, 1}}
+        << u"Good Night\n\nEaster\n\nRisen\nindeed"_s << u"#b00000 22 Page1.jpg"_s;
+    QTest::newRow("neither: the poem alone; colour code 7 shows it in black")
+        << u"pm"_s << QVariantMap{{u"textColor"_s, 7}} << u"Risen\nindeed"_s << u"#000000 17 "_s;
+}
+
+void TestReader::specialDayComposesAndStyles()
+{
+    QFETCH(QString, ampm);
+    QFETCH(QVariantMap, preferences);
+    QFETCH(QString, text);
+    QFETCH(QString, look);
+    TestEnvironment environment;
+    for (auto it = preferences.begin(); it != preferences.end(); ++it)
+        UserDefaults::standard().set(it.key(), it.value());
+    selectSpecialDay(ampm, u"Risen\nindeed"_s);
+    EditSpecialDaysViewController controller;
+    controller.viewDidLoad();
+    QCOMPARE(controller.PoemPrayerText(), text);
+    QCOMPARE(Selection::shared().selectedSpecialPoem(), text);
+    QCOMPARE(controller.title(), u"Easter"_s);
+    const ReaderAppearance &shown = *controller.appearance();
+    QVERIFY(shown.styled());
+    QCOMPARE(::look(shown), look);
+
+    // The keyboard steps the shown size within the stepper's range and stores nothing.
+    for (int i = 0; i < 40; ++i)
+        controller.StepFontSize(1);
+    QCOMPARE(shown.fontSize(), 48.0);
+    QCOMPARE(UserDefaults::standard().object(u"ReaderFontSize"_s), preferences.value(u"ReaderFontSize"_s));
+}
+
+void TestReader::specialDaySaveWritesOnlyForHeadingWords_data()
+{
+    QTest::addColumn<QString>("ampm");
+    QTest::addColumn<QString>("night"); // the night poem stored after the save
+    QTest::newRow("the list's AM writes nothing") << u"AM"_s << u"old night"_s;
+    QTest::newRow("the list's PM writes nothing") << u"PM"_s << u"old night"_s;
+    QTest::newRow("Good Night writes the night poem") << u"Good Night"_s << u"edited"_s;
+}
+
+void TestReader::specialDaySaveWritesOnlyForHeadingWords()
+{
+    QFETCH(QString, ampm);
+    QFETCH(QString, night);
+    TestEnvironment environment;
+    insertSpecialDays({u"AM|Easter|old"_s, u"PM|Easter|old night"_s});
+    selectSpecialDay(ampm, u"old"_s);
+    EditSpecialDaysViewController controller;
+    controller.viewDidLoad();
+    controller.setPoemPrayerText(u"edited"_s);
+    environment.logLines.clear();
+    QSignalSpy unwinds(&Navigator::shared(), &Navigator::unwindRequested);
+    controller.SaveSpecialDays();
+    QCOMPARE(storedRows<SpecialDay>({u"ampm"_s, u"poemprayer"_s}), (QStringList{u"AM|old"_s, u"PM|"_s + night}));
+    QCOMPARE(environment.logLines, QStringList{u"Back button Clicked"_s});
+    QCOMPARE(unwinds.value(0), QVariantList{u"unwindToSpecialDaysSegue"_s});
+}
+
+void TestReader::pictureDrawsThePageAsTheReaderShowsIt_data()
+{
+    QTest::addColumn<qint64>("textColor");
+    QTest::addColumn<qint64>("useWallpaper");
+    QTest::newRow("magenta, no wallpaper") << qint64(1) << qint64(0);
+    QTest::newRow("red over a wallpaper") << qint64(2) << qint64(1);
+}
+
+void TestReader::pictureDrawsThePageAsTheReaderShowsIt()
+{
+    const QString page = u"Dew on the gate\nand on the grass,\nthe wren is up before the sun."_s;
+    QFETCH(qint64, textColor);
+    QFETCH(qint64, useWallpaper);
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"textColor"_s, textColor);
+    UserDefaults::standard().set(u"useWallpaper"_s, useWallpaper);
+    UserDefaults::standard().set(u"ReaderFontSize"_s, 18.0);
+    for (const QString &name : Wallpapers::ViewerWallpaper()) // one wallpaper, so every draw gives it
+        UserDefaults::standard().set(name, name == u"Page3"_s ? u"true"_s : u"false"_s);
+    const QColor ink = textColorFor(textColor).value_or(QColor(Qt::black));
+
+    const QImage picture = pictureOf(page);
+    QCOMPARE(picture.width(), PagePicture::width);
+    // The same number of lines without a word: the same size, the same wallpaper, no text.
+    const QImage blank = pictureOf(QString(page).replace(QRegularExpression(u"\\S"_s), u" "_s));
+    QCOMPARE(blank.size(), picture.size());
+    const Ink written = inkOf(picture, ink);
+    const Ink background = inkOf(blank, ink);
+    QVERIFY2(written.pixels > background.pixels + 5000, qPrintable(u"%1 against %2"_s.arg(written.pixels).arg(background.pixels)));
+
+    // Behind the text (and the heading, which stays): the wallpaper when it is on, else the
+    // reader's plain grey.
+    const int grey = inkOf(blank, QColor(0xd3, 0xd3, 0xd3), 0).pixels;
+    QCOMPARE(grey > blank.width() * blank.height() * 9 / 10, useWallpaper == 0);
+    if (useWallpaper == 0) { // the reader centres its lines
+        const int middle = (written.box.left() + written.box.right()) / 2;
+        QVERIFY2(std::abs(middle - PagePicture::width / 2) < 40, qPrintable(QString::number(middle)));
+    }
+
+    // A larger size makes a taller picture, still as wide.
+    UserDefaults::standard().set(u"ReaderFontSize"_s, 30.0);
+    const QImage larger = pictureOf(page);
+    QVERIFY(larger.width() == PagePicture::width && larger.height() > picture.height());
 }
 
 QTEST_MAIN(TestReader)

@@ -1,7 +1,10 @@
 #include "Clock.h"
+#include "Navigator.h"
+#include "PagePicture.h"
 #include "PageRows.h"
 #include "PreferenceKeys.h"
 #include "Selection.h"
+#include "Sharing.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
@@ -11,12 +14,13 @@
 #include <QQuickWindow>
 #include <QTest>
 #include <QTextDocument>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
-// Turning pages in the real readers: each list's order, the ends, the three ways to turn, the
-// selection a turn leaves, and the list coming back to the page now open.
-class TestPageTurn : public QObject
+// The readers in the real window: turning pages in each list, the keyboard alone, a large list
+// font, a special day, and a page shared as a picture.
+class TestReaderPages : public QObject
 {
     Q_OBJECT
 
@@ -27,6 +31,10 @@ private Q_SLOTS:
     void turnInPageList();
     void turnInSearchResults();
     void unsavedEditsKeepThePage();
+    void keyboardAlone();
+    void largeListFontFitsTheRows();
+    void specialDayListReaderAndBack();
+    void shareSheetOffersThePicture();
 };
 
 namespace {
@@ -91,9 +99,25 @@ QQuickWindow *openReader(QQmlApplicationEngine &engine, const QString &coverButt
     click(window, waitForItem(window, u"row-%1"_s.arg(row)));
     return QTest::qWaitFor([&] { return topPage(window) == u"View"_s; }) ? window : nullptr;
 }
+
+// Presses Tab until `reached` holds for the focused item; false after a lap of the window.
+bool tabUntil(QQuickWindow *window, const std::function<bool(QQuickItem *)> &reached)
+{
+    for (int i = 0; i < 40; ++i) {
+        if (window->activeFocusItem() && reached(window->activeFocusItem()))
+            return true;
+        QTest::keyClick(window, Qt::Key_Tab);
+    }
+    return false;
 }
 
-void TestPageTurn::turnInPageList_data()
+bool isA(QQuickItem *item, const char *qmlType)
+{
+    return QString::fromLatin1(item->metaObject()->className()).startsWith(QLatin1StringView(qmlType));
+}
+}
+
+void TestReaderPages::turnInPageList_data()
 {
     QTest::addColumn<QString>("route"); // the cover's button, the list's segment, the row opened
     QTest::addColumn<QString>("how");
@@ -114,7 +138,7 @@ void TestPageTurn::turnInPageList_data()
     QTest::newRow("favourites only") << u"FavoritesButton - 0"_s << u"button"_s << 1 << u"January 2|AM|1|2|3|T"_s << 1 << u"<"_s;
 }
 
-void TestPageTurn::turnInPageList()
+void TestReaderPages::turnInPageList()
 {
     QFETCH(QString, route);
     QFETCH(QString, how);
@@ -166,7 +190,7 @@ void TestPageTurn::turnInPageList()
 
 // Search, the marked result scrolled into sight, a turn to the next result, a favourite, and back
 // to the same search.
-void TestPageTurn::turnInSearchResults()
+void TestReaderPages::turnInSearchResults()
 {
     TestEnvironment environment;
     insertPages(pages);
@@ -215,7 +239,7 @@ void TestPageTurn::turnInSearchResults()
 
 // A favourite ticked in the reader shows in the list; typing changes the page: the caret keeps the
 // arrow keys, and the page stays until it is saved.
-void TestPageTurn::unsavedEditsKeepThePage()
+void TestReaderPages::unsavedEditsKeepThePage()
 {
     TestEnvironment environment;
     insertPages(pages);
@@ -246,5 +270,163 @@ void TestPageTurn::unsavedEditsKeepThePage()
     QTRY_VERIFY(visible(window, u"row-0"_s)->property("favoriteChecked").toBool());
 }
 
-QTEST_MAIN(TestPageTurn)
-#include "tst_pageturn.moc"
+// The list and the reader without a mouse: the list keeps its place across a reading, the text
+// lets Tab go, Ctrl+plus/minus act as the stepper, Space marks a favourite, the arrows switch
+// segments, Escape and Alt+Left go back.
+void TestReaderPages::keyboardAlone()
+{
+    TestEnvironment environment;
+    QStringList pages;
+    for (int i = 0; i < 60; ++i)
+        pages << u"Day %1|AM|%2|%3|%4|F|Morning %4"_s.arg(i).arg(1 + i / 28).arg(1 + i % 28).arg(2 * i + 1);
+    insertPages(pages);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+    QVERIFY(window);
+
+    auto *table = findVisibleItem(window->contentItem(), u"table"_s);
+    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return table->isAncestorOf(item); }));
+    for (int i = 0; i < 40; ++i)
+        QTest::keyClick(window, Qt::Key_Down);
+    QTRY_COMPARE(table->property("currentIndex").toInt(), 40);
+    QTRY_VERIFY(table->property("contentY").toDouble() > 100);
+    const auto topInList = [&](const QString &row) {
+        QQuickItem *item = findVisibleItem(window->contentItem(), row);
+        return item ? item->mapToItem(table, QPointF(0, 0)).y() : -1e9;
+    };
+    const double chosenTop = topInList(u"row-40"_s);
+
+    QTest::keyClick(window, Qt::Key_Return);
+    QTRY_COMPARE(topPage(window), u"View"_s);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QVERIFY(text->property("text").toString().contains(u"Morning 81"_s));
+    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
+    QTest::keyClick(window, Qt::Key_Tab);
+    QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
+    auto *stepper = findVisibleItem(window->contentItem(), u"FontSizeStepper"_s);
+    const double size = stepper->property("value").toDouble();
+    QTest::keyClick(window, Qt::Key_Plus, Qt::ControlModifier);
+    QTRY_COMPARE(stepper->property("value").toDouble(), size + 1);
+    QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), size + 1);
+    QTest::keyClick(window, Qt::Key_Minus, Qt::ControlModifier);
+    QTRY_COMPARE(stepper->property("value").toDouble(), size);
+
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+    QTRY_COMPARE(topInList(u"row-40"_s), chosenTop); // where the reader left it
+    auto *chosen = findVisibleItem(window->contentItem(), u"row-40"_s);
+    QVERIFY(chosen);
+    const QRectF shown = chosen->mapRectToItem(table, chosen->boundingRect());
+    QVERIFY(shown.top() >= 0 && shown.bottom() <= table->height());
+
+    QVERIFY(tabUntil(window, [](QQuickItem *item) { return isA(item, "FavoriteBox"); }));
+    QQuickItem *box = window->activeFocusItem();
+    QVERIFY(chosen->isAncestorOf(box)); // the chosen row's own box, not the first row's
+    QTest::keyClick(window, Qt::Key_Space);
+    QTRY_COMPARE(box->property("checkState").toInt(), 1);
+    FetchRequest favorites = PoemPrayer::fetchRequest();
+    favorites.predicate = Predicate::equals(u"favorite"_s, u"T"_s);
+    QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(favorites).size(), 1);
+
+    auto *segments = findVisibleItem(window->contentItem(), u"segment"_s);
+    const int segment = segments->property("currentIndex").toInt();
+    const int rows = table->property("count").toInt();
+    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == segments; }));
+    QTest::keyClick(window, Qt::Key_Right); // AM to PM: no night pages here
+    QTRY_COMPARE(segments->property("currentIndex").toInt(), segment + 1);
+    QTRY_VERIFY(table->property("count").toInt() != rows);
+
+    QTest::keyClick(window, Qt::Key_Left, Qt::AltModifier);
+    QTRY_COMPARE(topPage(window), u"CoverView"_s);
+}
+
+// The largest list font on a small phone: the rows grow to hold their labels.
+void TestReaderPages::largeListFontFitsTheRows()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
+    insertPages({u"September 30|AM|9|30|547|F|Morning"_s});
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+    QVERIFY(window);
+    window->resize(360, 640);
+    QQuickItem *row = waitForItem(window, u"row-0"_s);
+    QVERIFY(row);
+    QTRY_COMPARE(row->width(), findVisibleItem(window->contentItem(), u"table"_s)->width());
+    for (const QString &name : {u"DateLabel"_s, u"PageWords"_s}) {
+        QQuickItem *label = findVisibleItem(row, name);
+        QVERIFY2(label, qPrintable(name));
+        const QRectF inRow = label->mapRectToItem(row, label->boundingRect());
+        QVERIFY2(inRow.top() >= 0 && inRow.bottom() <= row->height() && inRow.right() <= row->width(), qPrintable(name));
+        QVERIFY2(!label->property("truncated").toBool(), qPrintable(name)); // every word kept
+    }
+}
+
+// Cover → Special Days (first visit seeds) → a day → share → back, in the real pages.
+void TestReaderPages::specialDayListReaderAndBack()
+{
+    TestEnvironment environment;
+    environment.addBundleFile(u"SpecialDays.txt"_s,
+                              "[SPECIALDAYS]\r\nPM^Candlemas^Light kept@#@for the dark\r\nAM^Candlemas^Morning light\r\n");
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openFromCover(engine, u"SpecialDaysButton"_s, u"SpecialDaysTableView"_s);
+    QVERIFY(window);
+    QQuickItem *nightRow = waitForItem(window, u"row-1"_s);
+    QVERIFY(nightRow && waitForItem(window, u"section-Morning"_s) && waitForItem(window, u"section-Night"_s));
+    QCOMPARE(nightRow->property("dayText").toString(), u"Good Night - Candlemas"_s);
+
+    click(window, nightRow);
+    QTRY_COMPARE(topPage(window), u"EditSpecialDaysView"_s);
+    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+    QVERIFY(text);
+    QCOMPARE(text->property("text").toString(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark"_s);
+
+    // Sharing hands over the text as it stands, edits included, with no text-message gate.
+    Sharing::shared().setCanSendTextForTesting(false);
+    text->setProperty("text", text->property("text").toString() + u"\nAmen"_s);
+    click(window, waitForItem(window, u"ShareButton"_s));
+    QTRY_VERIFY(Sharing::shared().showing());
+    QCOMPARE(Sharing::shared().text(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark\nAmen"_s);
+    Sharing::shared().cancel();
+    Sharing::shared().setCanSendTextForTesting(std::nullopt);
+
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
+}
+
+void TestReaderPages::shareSheetOffersThePicture()
+{
+    TestEnvironment environment;
+    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = loadMainWindow(engine);
+    QVERIFY(window);
+    Selection::shared().setSelectedAmpm(u"AM"_s);
+    Selection::shared().setSelectedDt(u"May 2"_s);
+    Selection::shared().setSelectedPoemPrayer(u"Dew on the gate\nand on the grass,\nthe wren is up before the sun."_s);
+    Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+    QTRY_COMPARE(topPage(window), u"View"_s);
+
+    click(window, waitForItem(window, u"FacebookShareButton"_s));
+    QQuickItem *picture = waitForItem(window, u"share-picture"_s);
+    QVERIFY(picture);
+    QCOMPARE(picture->property("text").toString(), u"Share as Picture"_s);
+    environment.logLines.clear();
+    click(window, picture);
+    QTRY_VERIFY(Sharing::shared().sharesFile());
+    QCOMPARE(Sharing::shared().fileName(), u"May 2 Good Morning.png"_s);
+    QCOMPARE(environment.logLines.value(0), u"completed"_s);
+    QVERIFY(waitForItem(window, u"share-savecopy"_s) && !visible(window, u"share-picture"_s));
+    const QImage shared(QDir::temp().filePath(Sharing::shared().fileName()));
+    QCOMPARE(shared.width(), PagePicture::width);
+    int ink = 0; // the text drawn in black
+    for (int y = 0; y < shared.height(); ++y) {
+        for (int x = 0; x < shared.width(); ++x)
+            ink += qGray(shared.pixel(x, y)) < 60;
+    }
+    QVERIFY2(ink > 5000, qPrintable(QString::number(ink)));
+    Sharing::shared().cancel();
+}
+
+QTEST_MAIN(TestReaderPages)
+#include "tst_readerpages.moc"
