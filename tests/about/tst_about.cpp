@@ -1,19 +1,34 @@
 #include "AboutEditViewController.h"
 #include "AboutImportViewController.h"
 #include "AboutNewViewController.h"
-#include "PageRows.h"
 #include "AboutTableViewController.h"
 #include "Alerts.h"
+#include "FatalError.h"
+#include "PageFileWriter.h"
+#include "PageRows.h"
+#include "PageSeeding.h"
 #include "Selection.h"
+#include "Sharing.h"
+#include "SpecialDaysExportViewController.h"
+#include "StoreSnapshots.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
+#include <QFileInfo>
 #include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes)
 {
     const QString path = folder.filePath(u"picked.txt"_s);
@@ -22,15 +37,67 @@ QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes)
     file.write(bytes);
     return path;
 }
+
+QByteArray golden(const QString &name)
+{
+    return contents(QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name);
 }
 
-// The about list's seeding, its articles' headings, new articles, and the about import.
+// A stand-in for xdg-email on PATH: records its arguments, ends with the status asked for. The
+// files handed to it are written to its folder.
+class FakeMailer
+{
+public:
+    explicit FakeMailer(int status)
+    {
+        QFile script(m_folder.filePath(u"xdg-email"_s));
+        script.open(QIODevice::WriteOnly);
+        script.write("#!/bin/sh\nprintf '%s\\n' \"$@\" > \"$(dirname \"$0\")/arguments\"\nexit " + QByteArray::number(status) + "\n");
+        script.setPermissions(script.permissions() | QFile::ExeOwner);
+        qputenv("PATH", m_folder.path().toUtf8() + ':' + m_path);
+        qputenv("TMPDIR", m_folder.path().toUtf8());
+    }
+    ~FakeMailer()
+    {
+        qputenv("PATH", m_path);
+        qunsetenv("TMPDIR");
+    }
+    QStringList arguments() const { return QString::fromUtf8(contents(temporary(u"arguments"_s))).split(u'\n', Qt::SkipEmptyParts); }
+    QString temporary(const QString &name) const { return m_folder.filePath(name); }
 
+private:
+    QTemporaryDir m_folder;
+    QByteArray m_path = qgetenv("PATH");
+};
+
+// Builds the file on one of the three export screens, lets the user edit it, and mails it.
+void buildEditAndMail(const QString &screen, const QString &edited)
+{
+    if (screen == u"about") {
+        AboutImportViewController controller;
+        controller.CreateExportFile();
+        controller.setImportTextView(edited);
+        controller.EmailExportFile();
+        return;
+    }
+    std::unique_ptr<ExportViewController> controller = screen == u"pages"
+        ? std::make_unique<ExportViewController>() : std::make_unique<SpecialDaysExportViewController>();
+    controller->viewDidLoad();
+    controller->CreateUpdateFile();
+    controller->setExportTextView(edited);
+    controller->WriteTextFile();
+    QCOMPARE(controller->ExportTextView(), edited); // read back from the written file
+}
+}
+
+// The about list's seeding, its articles' headings, new articles; the update files against golden
+// files, importing, saving and mailing them; and the store copies.
 class TestAbout : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { Sharing::shared().setCanSendMailForTesting(std::nullopt); dismissAlerts(); }
     void firstVisitSeeds_data();
     void firstVisitSeeds();
     void secondVisitLeavesTheTable();
@@ -41,6 +108,16 @@ private Q_SLOTS:
     void import_data();
     void import();
     void unreadableFileChangesNothing();
+    void pageUpdateFile_data();
+    void pageUpdateFile();
+    void aboutFileSortedByNameWithoutNamelessArticles();
+    void aboutArticleWithoutTextCannotBeWritten();
+    void specialDaysFile();
+    void savesAndSharesTheFile();
+    void mail_data();
+    void mail();
+    void snapshotsKeepTheNewestFive();
+    void firstLaunchSeedingCopiesTheStoreFirst();
 };
 
 void TestAbout::firstVisitSeeds_data()
@@ -233,6 +310,199 @@ void TestAbout::unreadableFileChangesNothing()
     controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, "\xc3\x28 not UTF-8")));
     QCOMPARE(environment.logLines.size(), 2);
     QCOMPARE(controller.ImportTextView(), u"[ABOUT]\nA^b\n"_s);
+}
+
+void TestAbout::pageUpdateFile_data()
+{
+    QTest::addColumn<QStringList>("pages");
+    QTest::addColumn<QString>("change"); // made in the context and not saved
+    QTest::addColumn<QByteArray>("file");
+    const QStringList two{u"January 1|AM|1|1|1|F|first"_s, u"January 1|PM|1|1|2|T|second"_s};
+    QTest::newRow("empty table") << QStringList() << QString() << QByteArray("[POEMPRAYER]\n");
+    QTest::newRow("line breaks, absent values, caret, month 0, negatives")
+        << QStringList{u"d1|AM|12|25|359|F|First line\nsecond line"_s, u"January 2|PM|1|2|4|-|A caret ^ stays"_s,
+                       u"-|-|0|0|0|T|-"_s, u"New Year|AM|-1|31|-7|F|"_s}
+        << QString() << golden(u"pages.txt"_s);
+    QTest::newRow("the smallest and largest numbers, accents") << QStringList{u"d|AM|-3|-32768|32767|-|“Tomáš”"_s} << QString()
+                                                              << u"[POEMPRAYER]\nd^AM^-3^-32768^32767^^“Tomáš”\n"_s.toUtf8();
+    QTest::newRow("an unsaved favourite") << two << u"favorite"_s
+        << "[POEMPRAYER]\nJanuary 1^AM^1^1^1^T^first\nJanuary 1^PM^1^1^2^T^second\n"_ba;
+    QTest::newRow("an unsaved new page") << two << u"insert"_s
+        << "[POEMPRAYER]\nJanuary 1^AM^1^1^1^F^first\nJanuary 1^PM^1^1^2^T^second\nnew^AM^5^6^7^^n\n"_ba;
+    QTest::newRow("an unsaved deletion") << two << u"delete"_s << "[POEMPRAYER]\nJanuary 1^PM^1^1^2^T^second\n"_ba;
+}
+
+// The export reads the columns straight from the store unless the context holds unsaved page
+// changes; either way the file is what the store plus those changes hold.
+void TestAbout::pageUpdateFile()
+{
+    QFETCH(QStringList, pages);
+    QFETCH(QString, change);
+    QFETCH(QByteArray, file);
+    TestEnvironment environment;
+    insertPages(pages);
+    AppDelegate::shared().reset(); // no page objects made yet, as when the screen opens
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    if (change == u"insert") {
+        PoemPrayer *page = context.insertNewObject<PoemPrayer>();
+        for (const auto &[column, value] : {std::pair{u"dt"_s, u"new"_s}, {u"ampm"_s, u"AM"_s}, {u"month"_s, u"5"_s},
+                                            {u"day"_s, u"6"_s}, {u"pagenum"_s, u"7"_s}, {u"poemprayer"_s, u"n"_s}})
+            page->setValueForKey(column, value);
+    } else if (!change.isEmpty()) {
+        PoemPrayer *first = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).constFirst();
+        change == u"favorite" ? first->setFavorite(u"T"_s) : context.deleteObject(first);
+    }
+    QCOMPARE(ExportViewController().updateFileText().toUtf8(), file);
+    if (change.isEmpty()) // the writer over page objects agrees
+        QCOMPARE(PageFile::updateFileText(context.fetch<PoemPrayer>(PoemPrayer::fetchRequest())).toUtf8(), file);
+}
+
+void TestAbout::aboutFileSortedByNameWithoutNamelessArticles()
+{
+    TestEnvironment environment;
+    insertAbouts({u"Thanks|To our readers.\n\nAnd to our families."_s, u"-|Never written"_s,
+                  u"Introduction|A morning and an evening page for each day."_s, u"|Nameless text"_s,
+                  u"Caret|one line\ntwo^three"_s});
+    AboutImportViewController controller;
+    controller.CreateExportFile();
+    QCOMPARE(controller.ImportTextView().toUtf8(), golden(u"about.txt"_s));
+    QVERIFY(!controller.ExportButtonEnabled());
+    QCOMPARE(environment.logLines.size(), 5); // every article is logged, the one left out too
+    QTRY_COMPARE_WITH_TIMEOUT(Alerts::shared().message(), u"Process Complete - File Ready to Email"_s, 3000);
+    QCOMPARE(Alerts::shared().title(), u"Data Export"_s);
+}
+
+void TestAbout::aboutArticleWithoutTextCannotBeWritten()
+{
+    TestEnvironment environment;
+    insertAbouts({u"Draft|-"_s});
+    AboutImportViewController controller;
+    QVERIFY_THROWS_EXCEPTION(FatalErrorException, controller.CreateExportFile());
+}
+
+void TestAbout::specialDaysFile()
+{
+    TestEnvironment environment;
+    const QList<SpecialDay *> days = insertSpecialDays({u"AM|Midsummer|Long light\nshort night"_s, u"PM|Quiet Day|-"_s,
+                                                        u"-|Nameless|A line"_s});
+    // The bytes; reading them back is the special-day file's own round trip.
+    QCOMPARE(std::get<QByteArray>(SpecialDayFile::write(SpecialDaysExportViewController::recordsOf(days))),
+             golden(u"specialdays.txt"_s));
+}
+
+void TestAbout::savesAndSharesTheFile()
+{
+    TestEnvironment environment;
+    FakeMailer mailer(0);
+    insertPages({u"d1|PM|1|1|2|T|Night"_s});
+    ExportViewController controller;
+    controller.CreateUpdateFile();
+    controller.setExportTextView(u"edited, not saved"_s);
+    controller.SaveToFiles();
+    const QString written = mailer.temporary(u"PoemPrayer.txt"_s);
+    QCOMPARE(environment.logLines, QStringList{written});
+    QCOMPARE(contents(written), QByteArray("[POEMPRAYER]\nd1^PM^1^1^2^T^Night\n")); // the file as built
+    QVERIFY(Sharing::shared().showing() && Sharing::shared().sharesFile());
+    QCOMPARE(Sharing::shared().suggestedCopy().fileName(), u"PoemPrayer.txt"_s);
+
+    Sharing::shared().saveCopy(QUrl::fromLocalFile(mailer.temporary(u"no/such/folder.txt"_s)));
+    QTRY_COMPARE(Alerts::shared().title(), u"Share"_s); // never a silent failure
+    QVERIFY(Sharing::shared().showing());
+    dismissAlerts();
+    const QString copy = mailer.temporary(u"copy.txt"_s);
+    Sharing::shared().saveCopy(QUrl::fromLocalFile(copy));
+    QCOMPARE(contents(copy), contents(written));
+    QVERIFY(!Sharing::shared().showing());
+}
+
+void TestAbout::mail_data()
+{
+    QTest::addColumn<QString>("screen");
+    QTest::addColumn<QString>("subject");
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QString>("fileName");
+    QTest::newRow("pages") << u"pages"_s << u"Larkwell Books Update Text File"_s << u"Attachment: Larkwell Books Text File"_s
+                           << u"PoemPrayer.txt"_s;
+    QTest::newRow("special days") << u"special days"_s << u"Larkwell Books Special Days Update Text File"_s
+                                  << u"Attachment: Larkwell Books Special Days Text File"_s << u"SpecialDays.txt"_s;
+    QTest::newRow("about") << u"about"_s << u"Larkwell's About Update Text File"_s
+                           << u"Attachment: Larkwell's About Text File"_s << u"About.txt"_s;
+}
+
+void TestAbout::mail()
+{
+    QFETCH(QString, screen);
+    QFETCH(QString, subject);
+    QFETCH(QString, body);
+    QFETCH(QString, fileName);
+    TestEnvironment environment;
+    // The export screens' own "Data Export" alerts may come in between; only mail alerts count.
+    QSignalSpy presented(&Alerts::shared(), &Alerts::presented);
+    const auto mailAlerts = [&presented] {
+        QStringList messages;
+        for (const QList<QVariant> &alert : std::as_const(presented)) {
+            if (alert[0] == u"Sending Email"_s)
+                messages.append(alert[1].toString());
+        }
+        return messages;
+    };
+    {
+        FakeMailer mailer(0);
+        Sharing::shared().setCanSendMailForTesting(false);
+        buildEditAndMail(screen, u"edited once"_s);
+        QCOMPARE(mailAlerts(), QStringList{u"Email not Setup or Unavailable"_s});
+        QVERIFY(mailer.arguments().isEmpty());
+
+        Sharing::shared().setCanSendMailForTesting(true);
+        buildEditAndMail(screen, u"edited twice"_s);
+        const QString attachment = mailer.temporary(fileName);
+        QTRY_COMPARE(mailer.arguments(), (QStringList{u"--subject"_s, subject, u"--body"_s, body, u"--attach"_s, attachment}));
+        QCOMPARE(contents(attachment), QByteArray("edited twice")); // the text view's content, edits included
+        QCOMPARE(mailAlerts().size(), 1);
+    }
+    FakeMailer failing(3);
+    buildEditAndMail(screen, u"edited"_s);
+    QTRY_COMPARE(mailAlerts().size(), 2);
+    QCOMPARE(mailAlerts().last(), u"The mail program could not be started: xdg-email ended with status 3"_s);
+}
+
+void TestAbout::snapshotsKeepTheNewestFive()
+{
+    TestEnvironment environment;
+    QVERIFY(!StoreSnapshots::take(u"first-launch"_s)); // no store yet, nothing to copy
+    insertAbouts({u"Kept|In every copy"_s});
+    QStringList taken;
+    for (int i = 0; i < 7; ++i)
+        taken.append(StoreSnapshots::take(i % 2 ? StoreSnapshots::aboutImport : u"seeding"_s).value_or(QString()));
+    QCOMPARE(StoreSnapshots::all(), taken.mid(2));
+    QCOMPARE(StoreSnapshots::latest(StoreSnapshots::aboutImport), taken[5]);
+    QVERIFY(QFileInfo(taken[6]).fileName().startsWith(u"000007-seeding"_s));
+
+    // A copy is a whole store: its articles come back over a changed table.
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
+    context.deleteObject(context.fetch<About>(About::fetchRequest()).first());
+    insertAbouts({u"Later|Written after"_s});
+    QVERIFY(StoreSnapshots::restoreArticles(taken[5]));
+    QCOMPARE(storedAbouts(), QStringList{u"Kept|In every copy"_s});
+    QVERIFY(!StoreSnapshots::restoreArticles(taken[0])); // pruned
+}
+
+void TestAbout::firstLaunchSeedingCopiesTheStoreFirst()
+{
+    TestEnvironment environment;
+    insertPages({u"January 1|AM|1|1|1|T|A favourite kept in the copy"_s});
+    PageSeeding().clearPoemPrayers();
+    const QString copy = StoreSnapshots::latest(u"first-launch"_s);
+    QVERIFY(!copy.isEmpty());
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"copy"_s);
+        database.setDatabaseName(copy);
+        QVERIFY(database.open());
+        QSqlQuery query(u"SELECT poemprayer FROM PoemPrayer"_s, database);
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toString(), u"A favourite kept in the copy"_s);
+    }
+    QSqlDatabase::removeDatabase(u"copy"_s);
 }
 
 QTEST_MAIN(TestAbout)
