@@ -42,15 +42,18 @@ void selectPage(bool nightPage)
     selection.setSelectedAboutName(nightPage ? u"Good Night Preface"_s : u"Good Morning Preface"_s);
 }
 
-using Reader = std::function<const ReaderAppearance *(std::unique_ptr<ReaderScreen> &)>;
-template <class Screen> Reader reader()
+// The reader of that name, loaded.
+template <class Screen> std::unique_ptr<ReaderScreen> load()
 {
-    return [](std::unique_ptr<ReaderScreen> &screen) {
-        auto *view = new Screen;
-        screen.reset(view);
-        view->viewDidLoad();
-        return view->appearance();
-    };
+    auto view = std::make_unique<Screen>();
+    view->viewDidLoad();
+    return view;
+}
+
+std::unique_ptr<ReaderScreen> load(const QString &reader)
+{
+    return reader == u"search" ? load<SearchViewController>() : reader == u"special day" ? load<EditSpecialDaysViewController>()
+        : reader == u"about" ? load<AboutEditViewController>() : load<ViewController>();
 }
 }
 
@@ -143,26 +146,25 @@ void TestNightReading::emptyCheckCircleOnTheCell()
 
 void TestNightReading::whenTheNightLookShows_data()
 {
-    QTest::addColumn<Reader>("load");
+    QTest::addColumn<QString>("reader");
     QTest::addColumn<QVariant>("nightReading"); // invalid: never set
     QTest::addColumn<bool>("nightPage");
     QTest::addColumn<bool>("darkDesktop");
     QTest::addColumn<bool>("night");
-    const Reader page = reader<ViewController>();
-    QTest::newRow("night page, switch on") << page << QVariant(true) << true << false << true;
-    QTest::newRow("morning page, switch on") << page << QVariant(true) << false << false << false;
-    QTest::newRow("night page, switch never set") << page << QVariant() << true << false << false;
-    QTest::newRow("morning page, dark desktop") << page << QVariant(true) << false << true << true;
-    QTest::newRow("dark desktop, switch off") << page << QVariant(false) << false << true << false;
-    QTest::newRow("search, night page") << reader<SearchViewController>() << QVariant(true) << true << false << true;
-    QTest::newRow("special day, morning") << reader<EditSpecialDaysViewController>() << QVariant(true) << false << false << false;
-    QTest::newRow("special day, night") << reader<EditSpecialDaysViewController>() << QVariant(true) << true << false << true;
-    QTest::newRow("about, night article") << reader<AboutEditViewController>() << QVariant(true) << true << false << true;
+    QTest::newRow("night page, switch on") << u"page"_s << QVariant(true) << true << false << true;
+    QTest::newRow("morning page, switch on") << u"page"_s << QVariant(true) << false << false << false;
+    QTest::newRow("night page, switch never set") << u"page"_s << QVariant() << true << false << false;
+    QTest::newRow("morning page, dark desktop") << u"page"_s << QVariant(true) << false << true << true;
+    QTest::newRow("dark desktop, switch off") << u"page"_s << QVariant(false) << false << true << false;
+    QTest::newRow("search, night page") << u"search"_s << QVariant(true) << true << false << true;
+    QTest::newRow("special day, morning") << u"special day"_s << QVariant(true) << false << false << false;
+    QTest::newRow("special day, night") << u"special day"_s << QVariant(true) << true << false << true;
+    QTest::newRow("about, night article") << u"about"_s << QVariant(true) << true << false << true;
 }
 
 void TestNightReading::whenTheNightLookShows()
 {
-    QFETCH(Reader, load);
+    QFETCH(QString, reader);
     QFETCH(QVariant, nightReading);
     QFETCH(bool, nightPage);
     QFETCH(bool, darkDesktop);
@@ -178,8 +180,7 @@ void TestNightReading::whenTheNightLookShows()
         QGuiApplication::setPalette(dark);
     }
     selectPage(nightPage);
-    std::unique_ptr<ReaderScreen> screen;
-    const bool shown = load(screen)->night();
+    const bool shown = load(reader)->appearance()->night();
     QGuiApplication::setPalette(before);
     QCOMPARE(shown, night);
     QCOMPARE(UserDefaults::standard().integerForKey(u"textColor"_s), 2); // the stored colour stays
