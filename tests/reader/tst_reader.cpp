@@ -78,6 +78,7 @@ class TestReader : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { dismissAlerts(); }
     void composesHeadingDateAndText_data();
     void composesHeadingDateAndText();
     void appearanceFromPreferences_data();
