@@ -54,3 +54,14 @@ inline QList<SpecialDay *> insertSpecialDays(const QStringList &rows)
 {
     return insertRows<SpecialDay>({QStringLiteral("ampm"), QStringLiteral("dayname"), QStringLiteral("poemprayer")}, rows);
 }
+
+// About articles: "name|text".
+inline void insertAbouts(const QStringList &rows)
+{
+    insertRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")}, rows);
+}
+
+inline QStringList storedAbouts()
+{
+    return storedRows<About>({QStringLiteral("name"), QStringLiteral("aboutText")});
+}

@@ -11,7 +11,6 @@
 #include "SpeechDouble.h"
 #include "UserDefaults.h"
 
-#include <QDir>
 #include <QFile>
 #include <QQmlExtensionPlugin>
 #include <QQmlApplicationEngine>
@@ -49,7 +48,7 @@ TestEnvironment::~TestEnvironment()
 
 void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes)
 {
-    QFile file(QDir(m_bundle.path()).filePath(name));
+    QFile file(m_bundle.filePath(name));
     file.open(QIODevice::WriteOnly);
     file.write(bytes);
     Bundle::setResourceDirectory(m_bundle.path());
@@ -70,30 +69,27 @@ QString fatalStop(const std::function<void()> &action)
     return {};
 }
 
-QQuickItem *findItem(QQuickItem *root, const QString &objectName)
+static QQuickItem *find(QQuickItem *root, const QString &objectName, bool visibleOnly)
 {
-    if (!root)
+    if (!root || (visibleOnly && !root->isVisible()))
         return nullptr;
     if (root->objectName() == objectName)
         return root;
     for (QQuickItem *child : root->childItems()) {
-        if (QQuickItem *found = findItem(child, objectName))
+        if (QQuickItem *found = find(child, objectName, visibleOnly))
             return found;
     }
     return nullptr;
 }
 
+QQuickItem *findItem(QQuickItem *root, const QString &objectName)
+{
+    return find(root, objectName, false);
+}
+
 QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName)
 {
-    if (!root || !root->isVisible())
-        return nullptr;
-    if (root->objectName() == objectName)
-        return root;
-    for (QQuickItem *child : root->childItems()) {
-        if (QQuickItem *found = findVisibleItem(child, objectName))
-            return found;
-    }
-    return nullptr;
+    return find(root, objectName, true);
 }
 
 QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName)
@@ -131,7 +127,7 @@ QQuickItem *currentScreen(QQuickWindow *window)
 
 QString topPage(QQuickWindow *window)
 {
-    QQuickItem *screen = currentScreen(window);
+    const QQuickItem *screen = currentScreen(window);
     return screen ? screen->objectName() : QString();
 }
 

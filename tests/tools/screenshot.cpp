@@ -22,11 +22,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-void settle(int milliseconds)
-{
-    QTest::qWait(milliseconds);
-}
-
 bool runStep(QQuickWindow *window, const QString &step)
 {
     const QString kind = step.section(u':', 0, 0);
@@ -41,8 +36,7 @@ bool runStep(QQuickWindow *window, const QString &step)
         }
         QTest::mouseClick(window, Qt::LeftButton, {}, item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
     } else if (kind == u"key"_s) {
-        const QKeySequence sequence = QKeySequence::fromString(argument);
-        QTest::keySequence(window, sequence);
+        QTest::keySequence(window, QKeySequence::fromString(argument));
     } else if (kind == u"type"_s) {
         for (const QChar c : argument)
             QTest::keyClick(window, c.toLatin1());
@@ -60,7 +54,7 @@ bool runStep(QQuickWindow *window, const QString &step)
             return false;
         }
     } else if (kind == u"wait"_s) {
-        settle(argument.toInt());
+        QTest::qWait(argument.toInt());
     } else if (kind == u"shot"_s) {
         if (!window->grabWindow().save(argument)) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(argument));
@@ -71,7 +65,7 @@ bool runStep(QQuickWindow *window, const QString &step)
         std::fprintf(stderr, "unknown step %s\n", qPrintable(step));
         return false;
     }
-    settle(600);
+    QTest::qWait(600);
     return true;
 }
 }
@@ -90,16 +84,13 @@ int main(int argc, char *argv[])
     PersistentContainer::setDefaultDirectory(parser.value(dataDir));
     QQuickStyle::setStyle(u"Material"_s);
     AppDelegate::shared().didFinishLaunching();
-    importLarkwellsModule();
     QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QQuickWindow *window = loadMainWindow(engine);
     if (!window)
         return EXIT_FAILURE;
     const QStringList wh = parser.value(size).split(u'x');
     window->resize(wh.value(0).toInt(), wh.value(1).toInt());
-    settle(800);
+    QTest::qWait(800);
     for (const QString &step : parser.positionalArguments()) {
         if (!runStep(window, step))
             return EXIT_FAILURE;
