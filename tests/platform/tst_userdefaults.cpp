@@ -19,6 +19,8 @@ private Q_SLOTS:
     void valuesKeepTheirTypeAcrossRestart();
     void wrongTypeIsFatal_data();
     void wrongTypeIsFatal();
+    void backgroundWritesLandInOrder_data();
+    void backgroundWritesLandInOrder();
 };
 
 void TestUserDefaults::valuesKeepTheirTypeAcrossRestart_data()
@@ -53,6 +55,29 @@ void TestUserDefaults::valuesKeepTheirTypeAcrossRestart()
     QVERIFY(reloadedType);
     QCOMPARE(QStringList({u"bool"_s, u"integer"_s, u"double"_s, u"string"_s}).value(int(*reloadedType)), type);
     QCOMPARE(UserDefaults::standard().object(u"key"_s).toString(), value.toString());
+}
+
+void TestUserDefaults::backgroundWritesLandInOrder_data()
+{
+    QTest::addColumn<bool>("directAfter"); // a direct write follows the background one
+    QTest::newRow("background, then synchronize") << false;
+    QTest::newRow("background, then a direct write") << true;
+}
+
+// A count kept off the screen's way to the disk still reaches it, and never over a newer write.
+void TestUserDefaults::backgroundWritesLandInOrder()
+{
+    QFETCH(bool, directAfter);
+    TestEnvironment environment;
+    for (int count = 1; count <= 20; ++count)
+        UserDefaults::standard().setValuesInBackground({{u"count"_s, count}});
+    if (directAfter)
+        UserDefaults::standard().set(u"later"_s, true);
+    else
+        QVERIFY(UserDefaults::standard().synchronize());
+    UserDefaults::setStandardDirectory(environment.dataDirectory());
+    QCOMPARE(UserDefaults::standard().integerForKey(u"count"_s), 20);
+    QCOMPARE(UserDefaults::standard().boolForKey(u"later"_s), directAfter);
 }
 
 void TestUserDefaults::wrongTypeIsFatal_data()
