@@ -40,7 +40,7 @@ ApplicationWindow {
         visible: false
     }
     function settle() {
-        shownAhead = shownAhead.filter(screen => {
+        window.shownAhead = window.shownAhead.filter(screen => {
             if (stack.find(item => item === screen))
                 return true
             screen.destroy()
@@ -48,22 +48,23 @@ ApplicationWindow {
         })
         const top = stack.get(stack.depth - 1, StackView.DontLoad)
         const page = top && top.likelySegue ? Navigator.pageFor(top.likelySegue) : ""
-        if (page && page !== aheadPage)
-            buildAhead(page)
+        if (page && page !== window.aheadPage)
+            window.buildAhead(page)
     }
     function buildAhead(page: string) {
-        if (aheadScreen)
-            aheadScreen.destroy()
-        aheadScreen = null
-        aheadPage = page
+        if (window.aheadScreen)
+            window.aheadScreen.destroy()
+        window.aheadScreen = null
+        window.aheadPage = page
         const component = Qt.createComponent(page, Component.Asynchronous)
+        // The window may be gone (closed while a build was under way).
         const incubate = () => {
-            if (component.status !== Component.Ready || aheadPage !== page)
+            if (!window || component.status !== Component.Ready || window.aheadPage !== page)
                 return
             const incubator = component.incubateObject(aheadHolder, {}, Qt.Asynchronous)
             incubator.onStatusChanged = status => {
-                if (status === Component.Ready && aheadPage === page)
-                    aheadScreen = incubator.object
+                if (status === Component.Ready && window && window.aheadPage === page)
+                    window.aheadScreen = incubator.object
                 else if (status === Component.Ready)
                     incubator.object.destroy()
             }

@@ -41,6 +41,7 @@ TestEnvironment::TestEnvironment()
 
 TestEnvironment::~TestEnvironment()
 {
+    UserDefaults::standard().synchronize(); // no write may still be landing in the folder as it goes
     AppDelegate::shared().reset();
     Log::setSink({});
     Clock::set({});
