@@ -8,6 +8,7 @@
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
+#include <QPointer>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickTextDocument>
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void turnInPageList();
     void turnInSearchResults();
     void unsavedEditsKeepThePage();
+    void eachTapOpensAFreshReader();
     void keyboardAlone();
     void largeListFontFitsTheRows();
     void specialDayListReaderAndBack();
@@ -186,6 +188,30 @@ void TestReaderPages::turnInPageList()
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), listRow);
+}
+
+// The list builds its reader before the tap: each one shows the page then chosen, counts one
+// page opening, and goes once it has left.
+void TestReaderPages::eachTapOpensAFreshReader()
+{
+    TestEnvironment environment;
+    Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(9, 0)); });
+    insertPages(pages);
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = openReader(engine, u"TodayButton"_s, QString(), 0);
+    QVERIFY(window);
+    QPointer<QQuickItem> first = currentScreen(window);
+    QCOMPARE(first->property("title").toString(), u"Good Morning"_s);
+    click(window, waitForItem(window, u"backButton"_s));
+    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+    QTRY_VERIFY(!first);
+
+    QTest::qWait(200); // the next reader is built in the frames that follow
+    click(window, waitForItem(window, u"row-1"_s));
+    QTRY_COMPARE(topPage(window), u"View"_s);
+    QCOMPARE(currentScreen(window)->property("title").toString(), u"Good Night"_s);
+    QCOMPARE(waitForItem(window, u"PoemPrayerTextView"_s)->property("text").toString(), Selection::shared().selectedPoemPrayer());
+    QCOMPARE(reviewCount(), 2);
 }
 
 // Search, the marked result scrolled into sight, a turn to the next result, a favourite, and back
