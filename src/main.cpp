@@ -105,8 +105,11 @@ void placeWindow(QQuickWindow *window, const QString &dataDirectory)
     };
     for (const auto changed : {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
         QObject::connect(window, changed, window, keep);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, window,
-                     [file, last] { QSettings(file, QSettings::IniFormat).setValue(u"geometry"_s, *last); });
+    // An unchanged place is not written again: a write costs two disk flushes at every quit.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, window, [file, last, saved] {
+        if (*last != saved)
+            QSettings(file, QSettings::IniFormat).setValue(u"geometry"_s, *last);
+    });
 }
 }
 

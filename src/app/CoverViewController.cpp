@@ -27,6 +27,8 @@ QUrl CoverViewController::img() const
 void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
 {
     m_coverPath = CoverCache::path(pixelSize, scale);
+    if (QQmlEngine *engine = qmlEngine(this); engine && !engine->imageProvider(u"cover"_s))
+        engine->addImageProvider(u"cover"_s, new CoverCache::ImageProvider);
     const QUrl vector = img();
     const QString file = vector.scheme() == u"qrc"_s ? u':' + vector.path() : vector.toLocalFile();
     // without a cover in the bundle there is nothing to draw ahead
@@ -38,7 +40,7 @@ void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
 void CoverViewController::showCover()
 {
     const bool kept = m_coverDrawn.valid() ? m_coverDrawn.get() : QFile::exists(m_coverPath);
-    m_coverSource = kept ? QUrl::fromLocalFile(m_coverPath) : img();
+    m_coverSource = kept ? CoverCache::url(m_coverPath) : img();
     Q_EMIT coverSourceChanged();
 }
 

@@ -35,6 +35,13 @@ void settle(int milliseconds)
 }
 }
 
+QString SelfTest::Run::dataDirectory()
+{
+    if (!m_directory)
+        m_directory = std::make_unique<QTemporaryDir>();
+    return m_directory->path();
+}
+
 void SelfTest::Run::watchWarnings()
 {
     s_previous = qInstallMessageHandler(countWarnings);

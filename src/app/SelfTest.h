@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTemporaryDir>
+#include <memory>
 
 class QQmlApplicationEngine;
 
@@ -10,13 +11,14 @@ namespace SelfTest {
 class Run
 {
 public:
-    QString dataDirectory() const { return m_directory.path(); }
+    // Made when first asked for: a launch without --self-test has no use for it.
+    QString dataDirectory();
     // From now on every warning counts as a failure.
     void watchWarnings();
     // Pushes each screen a segue can open, pops back, and returns the exit status.
     int exec(QQmlApplicationEngine &engine);
 
 private:
-    QTemporaryDir m_directory;
+    std::unique_ptr<QTemporaryDir> m_directory;
 };
 }

@@ -1,3 +1,4 @@
+#include "CoverCache.h"
 #include "CoverViewController.h"
 #include "PreferenceKeys.h"
 #include "TestSupport.h"
@@ -58,23 +59,25 @@ void TestCoverCache::keepsOnePicture()
         QVERIFY(blocker.open(QIODevice::WriteOnly));
     }
 
+    const QDir cache(data.filePath(u"cache"_s));
+    const auto file = [&cache](const QUrl &url) { return cache.filePath(url.fileName()); };
     const QUrl drawn = launch(first);
-    const QDateTime drawnAt = QFileInfo(drawn.toLocalFile()).lastModified();
+    const QDateTime drawnAt = QFileInfo(file(drawn)).lastModified();
     const QUrl url = launch(second);
-    const QStringList pictures = QDir(data.filePath(u"cache"_s)).entryList({u"Cover-*"_s}, QDir::Files);
+    const QStringList pictures = cache.entryList({u"Cover-*"_s}, QDir::Files);
     if (!kept) {
         QCOMPARE(url, CoverViewController().img());
         QVERIFY(pictures.isEmpty());
         return;
     }
     QCOMPARE(pictures, QStringList{url.fileName()});
-    const QImage picture(url.toLocalFile());
+    const QImage picture = CoverCache::read(file(url));
     QCOMPARE(picture.size(), second);
     // Drawn, not blank: the night sky at the top is darker than the dawn below it.
     QVERIFY(qGray(picture.pixel(second.width() / 2, 2)) < qGray(picture.pixel(second.width() / 2, second.height() / 2)));
     if (first == second) {
         QCOMPARE(url, drawn);
-        QCOMPARE(QFileInfo(url.toLocalFile()).lastModified(), drawnAt); // read back, not drawn again
+        QCOMPARE(QFileInfo(file(url)).lastModified(), drawnAt); // read back, not drawn again
     }
 }
 
