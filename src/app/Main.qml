@@ -106,26 +106,17 @@ ApplicationWindow {
         }
     }
 
-    // The share sheet and the alert dialog are made when first wanted: most launches show neither.
+    // The share sheet and the alert dialog are made, and even compiled, when first wanted: most
+    // launches show neither.
     property QtObject shareSheet: null
     property QtObject alertDialog: null
-    Component {
-        id: shareSheetComponent
-        ShareSheet {}
-    }
-    Component {
-        id: alertDialogComponent
-        AlertDialog {
-            anchors.centerIn: parent
-        }
-    }
     function makeShareSheet() {
         if (Sharing.showing && !shareSheet)
-            shareSheet = shareSheetComponent.createObject(window)
+            shareSheet = Qt.createComponent("../platform/ShareSheet.qml").createObject(window)
     }
     function makeAlertDialog() {
         if (Alerts.showing && !alertDialog)
-            alertDialog = alertDialogComponent.createObject(window)
+            alertDialog = Qt.createComponent("../platform/AlertDialog.qml").createObject(window)
     }
     Connections {
         target: Sharing

@@ -9,6 +9,7 @@ Dialog {
     id: dialog
     objectName: "alertDialog"
     modal: true
+    anchors.centerIn: parent
     // An alert without buttons closes with Escape or a tap outside, so it can never trap the reader.
     closePolicy: Alerts.buttons.length > 0 ? Popup.NoAutoClose : Popup.CloseOnEscape | Popup.CloseOnPressOutside
     onClosed: if (Alerts.showing && Alerts.buttons.length === 0) Alerts.dismiss(-1)
