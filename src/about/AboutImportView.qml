@@ -14,6 +14,8 @@ Page {
 
     AboutImportViewController { id: controller }
     Component.onCompleted: controller.viewDidLoad()
+    // The chooser belongs to the window, not to this screen: it must not stay behind it.
+    StackView.onDeactivating: documentPicker.close()
 
     Connections {
         target: controller

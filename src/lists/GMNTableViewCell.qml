@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Layouts
 import Larkwells
 
 // A page row: its date, its "Good Morning"/"Good Night" label with the page number, and the
@@ -19,14 +18,19 @@ ListCell {
 
     Accessible.name: dateText + ", " + pageText.trim() + (favoriteChecked ? ", " + qsTr("favorite") : "")
 
-    contentItem: RowLayout {
-        spacing: 8
-        ColumnLayout {
-            Layout.fillWidth: true
+    // Plain positioning rather than layouts: rows are made as fast as a flick brings them.
+    contentItem: Item {
+        implicitHeight: Math.max(texts.implicitHeight, box.implicitHeight)
+        Column {
+            id: texts
+            anchors.left: parent.left
+            anchors.right: box.left
+            anchors.rightMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
             spacing: 2
             Label {
                 objectName: "DateLabel"
-                Layout.fillWidth: true
+                width: parent.width
                 text: cell.dateText
                 color: "black"
                 horizontalAlignment: Text.AlignHCenter
@@ -37,14 +41,16 @@ ListCell {
             }
             PageNumberLabel {
                 objectName: "PageLabel"
-                Layout.fillWidth: true
+                width: parent.width
                 text: cell.pageText
                 fontName: cell.fontName
                 fontSize: cell.fontSize
             }
         }
         FavoriteBox {
-            Layout.alignment: Qt.AlignVCenter
+            id: box
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
             interactive: cell.favoriteInteractive
             // Tab reaches the box of the current row only, then leaves the list.
             activeFocusOnTab: interactive && cell.ListView.isCurrentItem

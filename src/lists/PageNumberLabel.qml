@@ -52,7 +52,8 @@ Item {
         objectName: "PageWords"
         width: parent.width
         visible: !pageLabel.inColumns
-        text: pageLabel.text.trim()
+        // Laid out only when shown: most rows fit in columns.
+        text: pageLabel.inColumns ? "" : pageLabel.text.trim()
         color: "black"
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
