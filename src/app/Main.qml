@@ -56,16 +56,23 @@ ApplicationWindow {
             window.aheadScreen.destroy()
         window.aheadScreen = null
         window.aheadPage = page
-        const component = Qt.createComponent(page, Component.Asynchronous)
+        window.buildLater(page, aheadHolder, () => window.aheadPage === page, screen => window.aheadScreen = screen)
+    }
+    // Compiles and builds the component at `url` in the frames to come, never holding one up;
+    // `take` gets the object while `wanted` still holds, else it is destroyed.
+    function buildLater(url: string, parent: QtObject, wanted, take) {
+        const component = Qt.createComponent(url, Component.Asynchronous)
         // The window may be gone (closed while a build was under way).
         const incubate = () => {
-            if (!window || component.status !== Component.Ready || window.aheadPage !== page)
+            if (!window || component.status !== Component.Ready || !wanted())
                 return
-            const incubator = component.incubateObject(aheadHolder, {}, Qt.Asynchronous)
+            const incubator = component.incubateObject(parent, {}, Qt.Asynchronous)
             incubator.onStatusChanged = status => {
-                if (status === Component.Ready && window && window.aheadPage === page)
-                    window.aheadScreen = incubator.object
-                else if (status === Component.Ready)
+                if (status !== Component.Ready)
+                    return
+                if (window && wanted())
+                    take(incubator.object)
+                else
                     incubator.object.destroy()
             }
         }
@@ -107,16 +114,20 @@ ApplicationWindow {
     }
 
     // The share sheet and the alert dialog are made, and even compiled, when first wanted: most
-    // launches show neither.
+    // launches show neither. The dialog is built between frames, so the screen under it (the
+    // cover, on a first launch) is not held up; it opens faded out in any case.
     property QtObject shareSheet: null
     property QtObject alertDialog: null
+    property bool alertDialogComing: false
     function makeShareSheet() {
         if (Sharing.showing && !shareSheet)
             shareSheet = Qt.createComponent("../platform/ShareSheet.qml").createObject(window)
     }
     function makeAlertDialog() {
-        if (Alerts.showing && !alertDialog)
-            alertDialog = Qt.createComponent("../platform/AlertDialog.qml").createObject(window)
+        if (!Alerts.showing || alertDialog || alertDialogComing)
+            return
+        alertDialogComing = true
+        buildLater("../platform/AlertDialog.qml", window, () => true, dialog => window.alertDialog = dialog)
     }
     Connections {
         target: Sharing

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Layouts
 import Larkwells
 
 // Shows the current alert of the Alerts service, modal, with its buttons in order.
