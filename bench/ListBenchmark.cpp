@@ -167,50 +167,45 @@ int main(int argc, char **argv)
     list->setProperty("contentY", 0);
     settle(200);
 
-    // The floor: pushing a page with the same text and picture in a bare StackView. Its text
-    // and picture are the reader's, so the first tap on the app's row comes before it is made.
+    // Taps on the first row; the reader is closed again between them.
+    std::vector<double> taps;
     QString text;
     QUrl picture;
-    QQmlApplicationEngine bareEngine;
-    const auto makeBareWindow = [&] {
-        bareEngine.rootContext()->setContextProperty(u"pageText"_s, text);
-        bareEngine.rootContext()->setContextProperty(u"picture"_s, picture);
-        load(bareEngine, QStringLiteral(
-            "import QtQuick\nimport QtQuick.Controls\nApplicationWindow { width: %1; height: %2; visible: true\n"
-            "StackView { id: stack; anchors.fill: parent; initialItem: Page {} }\n"
-            "function open() { stack.push(reader) }\nfunction close() { stack.pop() }\n"
-            "property Component reader: Page { Image { anchors.fill: parent; source: picture; fillMode: Image.PreserveAspectCrop }\n"
-            "ScrollView { anchors.fill: parent; TextArea { text: pageText; readOnly: true; wrapMode: Text.Wrap } } } }")
-            .arg(window->width()).arg(window->height()).toUtf8());
-    };
-
-    // Taps on the first row, each followed by a push in the bare window; the reader is closed
-    // again between them.
-    std::vector<double> taps, bareTaps;
     for (int pass = 0; pass < tapPasses; ++pass) {
         QQuickItem *row = findItem(list, u"row-0"_s);
         taps.push_back(toNextFrame(window, [&] { QMetaObject::invokeMethod(row, "clicked"); }));
         QQuickItem *reader = topScreen(window);
         if (!reader || reader->objectName() != u"View"_s)
             qFatal("the reader did not open");
-        if (auto *surface = findItem(reader, u"scroller"_s); surface && pass == 0) {
+        if (auto *surface = findItem(reader, u"scroller"_s)) {
             text = surface->property("text").toString();
             if (auto *appearance = surface->property("appearance").value<QObject *>())
                 picture = appearance->property("wallpaper").toUrl();
-            makeBareWindow();
         }
-        settle(400);
-        Navigator::shared().popToRoot();
-        settle(200);
-        Navigator::shared().performSegue(u"PoemPrayerSegue"_s);
         settle(500);
+        Navigator::shared().popToRoot();
+        settle(300);
+        Navigator::shared().performSegue(u"PoemPrayerSegue"_s);
+        settle(600);
         screen = topScreen(window);
         list = findItem(screen, u"table"_s);
+    }
 
-        auto *bare = qobject_cast<QQuickWindow *>(bareEngine.rootObjects().value(0));
-        bareTaps.push_back(toNextFrame(bare, [&] { QMetaObject::invokeMethod(bare, "open"); }));
-        settle(400);
-        QMetaObject::invokeMethod(bare, "close");
+    QQmlApplicationEngine bareEngine;
+    bareEngine.rootContext()->setContextProperty(u"pageText"_s, text);
+    bareEngine.rootContext()->setContextProperty(u"picture"_s, picture);
+    QQuickWindow *bareWindow = load(bareEngine, QStringLiteral(
+        "import QtQuick\nimport QtQuick.Controls\nApplicationWindow { width: %1; height: %2; visible: true\n"
+        "StackView { id: stack; anchors.fill: parent; initialItem: Page {} }\n"
+        "function open() { stack.push(reader) }\nfunction close() { stack.pop() }\n"
+        "property Component reader: Page { Image { anchors.fill: parent; source: picture; fillMode: Image.PreserveAspectCrop }\n"
+        "ScrollView { anchors.fill: parent; TextArea { text: pageText; readOnly: true; wrapMode: Text.Wrap } } } }")
+        .arg(window->width()).arg(window->height()).toUtf8());
+    std::vector<double> bareTaps;
+    for (int pass = 0; pass < tapPasses; ++pass) {
+        bareTaps.push_back(toNextFrame(bareWindow, [&] { QMetaObject::invokeMethod(bareWindow, "open"); }));
+        settle(500);
+        QMetaObject::invokeMethod(bareWindow, "close");
         settle(300);
     }
 

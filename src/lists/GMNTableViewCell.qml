@@ -18,14 +18,13 @@ ListCell {
 
     Accessible.name: dateText + ", " + pageText.trim() + (favoriteChecked ? ", " + qsTr("favorite") : "")
 
-    // Plain positioning rather than layouts: rows are made as fast as a flick brings them.
+    // Plain positioning rather than layouts: rows are made as fast as a flick brings them. The
+    // favourite box sits in the right padding, beside the texts.
+    rightPadding: 14 + box.width + 8
     contentItem: Item {
-        implicitHeight: Math.max(texts.implicitHeight, box.implicitHeight)
+        implicitHeight: childrenRect.height
         Column {
-            id: texts
-            anchors.left: parent.left
-            anchors.right: box.left
-            anchors.rightMargin: 8
+            width: parent.width
             anchors.verticalCenter: parent.verticalCenter
             spacing: 2
             Label {
@@ -47,18 +46,19 @@ ListCell {
                 fontSize: cell.fontSize
             }
         }
-        FavoriteBox {
-            id: box
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            interactive: cell.favoriteInteractive
-            // Tab reaches the box of the current row only, then leaves the list.
-            activeFocusOnTab: interactive && cell.ListView.isCurrentItem
-            checked: cell.favoriteChecked
-            fontFamily: cell.fontName
-            fontSize: Math.min(cell.fontSize, 15)
-            onValueChanged: checkState => cell.favoriteChanged(checkState)
-            onPassiveTap: cell.clicked()
-        }
+    }
+    FavoriteBox {
+        id: box
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        interactive: cell.favoriteInteractive
+        // Tab reaches the box of the current row only, then leaves the list.
+        activeFocusOnTab: interactive && cell.ListView.isCurrentItem
+        checked: cell.favoriteChecked
+        fontFamily: cell.fontName
+        fontSize: Math.min(cell.fontSize, 15)
+        onValueChanged: checkState => cell.favoriteChanged(checkState)
+        onPassiveTap: cell.clicked()
     }
 }
