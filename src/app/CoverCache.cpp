@@ -84,9 +84,18 @@ QUrl CoverCache::url(const QString &path)
     return QUrl(u"image://cover/"_s + QFileInfo(path).fileName());
 }
 
-QImage CoverCache::ImageProvider::requestImage(const QString &id, QSize *size, const QSize &)
+QString CoverCache::vectorCover()
 {
-    const QImage image = read(QDir(folder()).filePath(id));
+    const QUrl vector = Bundle::main().imageUrl(u"Cover"_s);
+    return vector.scheme() == u"qrc"_s ? u':' + vector.path() : vector.toLocalFile();
+}
+
+QImage CoverCache::ImageProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
+{
+    const QString path = QDir(folder()).filePath(id);
+    QImage image = read(path);
+    if (image.isNull() && !requestedSize.isEmpty() && draw(vectorCover(), path, requestedSize))
+        image = read(path);
     if (size)
         *size = image.size();
     return image;

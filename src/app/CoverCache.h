@@ -21,8 +21,11 @@ bool draw(const QString &vectorCover, const QString &path, QSize pixelSize);
 QImage read(const QString &path);
 // Where QML finds a kept picture: "image://cover/" followed by the name of its file.
 QUrl url(const QString &path);
+// The vector cover of the bundle, as a file name QSvgRenderer reads; empty when it has none.
+QString vectorCover();
 
-// Serves "image://cover/<file name>" from the cache folder.
+// Serves "image://cover/<file name>" from the cache folder; a picture found damaged is drawn
+// again at the size asked for.
 class ImageProvider : public QQuickImageProvider
 {
 public:

@@ -29,8 +29,7 @@ void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
     m_coverPath = CoverCache::path(pixelSize, scale);
     if (QQmlEngine *engine = qmlEngine(this); engine && !engine->imageProvider(u"cover"_s))
         engine->addImageProvider(u"cover"_s, new CoverCache::ImageProvider);
-    const QUrl vector = img();
-    const QString file = vector.scheme() == u"qrc"_s ? u':' + vector.path() : vector.toLocalFile();
+    const QString file = CoverCache::vectorCover();
     // without a cover in the bundle there is nothing to draw ahead
     if (pixelSize.isEmpty() || file.isEmpty() || QFile::exists(m_coverPath))
         return;

@@ -19,32 +19,30 @@ ListCell {
     Accessible.name: dateText + ", " + pageText.trim() + (favoriteChecked ? ", " + qsTr("favorite") : "")
 
     // Plain positioning rather than layouts: rows are made as fast as a flick brings them. The
-    // favourite box sits in the right padding, beside the texts.
+    // favourite box sits in the right padding, beside the texts; texts shorter than the row sit
+    // in its middle.
     rightPadding: 14 + box.width + 8
-    contentItem: Item {
-        implicitHeight: childrenRect.height
-        Column {
+    topPadding: Math.max(10, (rowHeight - implicitContentHeight) / 2)
+    bottomPadding: topPadding
+    contentItem: Column {
+        spacing: 2
+        Label {
+            objectName: "DateLabel"
             width: parent.width
-            anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
-            Label {
-                objectName: "DateLabel"
-                width: parent.width
-                text: cell.dateText
-                color: "black"
-                horizontalAlignment: Text.AlignHCenter
-                font.family: cell.fontName
-                font.pixelSize: cell.fontSize
-                font.bold: true
-                wrapMode: Text.Wrap
-            }
-            PageNumberLabel {
-                objectName: "PageLabel"
-                width: parent.width
-                text: cell.pageText
-                fontName: cell.fontName
-                fontSize: cell.fontSize
-            }
+            text: cell.dateText
+            color: "black"
+            horizontalAlignment: Text.AlignHCenter
+            font.family: cell.fontName
+            font.pixelSize: cell.fontSize
+            font.bold: true
+            wrapMode: Text.Wrap
+        }
+        PageNumberLabel {
+            objectName: "PageLabel"
+            width: parent.width
+            text: cell.pageText
+            fontName: cell.fontName
+            fontSize: cell.fontSize
         }
     }
     FavoriteBox {

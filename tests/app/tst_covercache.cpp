@@ -19,6 +19,8 @@ class TestCoverCache : public QObject
 private Q_SLOTS:
     void keepsOnePicture_data();
     void keepsOnePicture();
+    void damagedPictureIsDrawnAgain_data();
+    void damagedPictureIsDrawnAgain();
 };
 
 namespace {
@@ -79,6 +81,37 @@ void TestCoverCache::keepsOnePicture()
         QCOMPARE(url, drawn);
         QCOMPARE(QFileInfo(file(url)).lastModified(), drawnAt); // read back, not drawn again
     }
+}
+
+void TestCoverCache::damagedPictureIsDrawnAgain_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const qint32 wrongSize[2] = {240, 361};
+    QTest::newRow("torn") << QByteArray("LWC1\xf0\x00");
+    QTest::newRow("another format") << QByteArray("P6\n240 360\n255\n") + QByteArray(240 * 360 * 3, '\x7f');
+    QTest::newRow("pixels short of the size it names")
+        << QByteArray("LWC1") + QByteArray(reinterpret_cast<const char *>(wrongSize), sizeof wrongSize) + QByteArray(240 * 360 * 4, '\0');
+}
+
+void TestCoverCache::damagedPictureIsDrawnAgain()
+{
+    QFETCH(QByteArray, content);
+    TestEnvironment environment;
+    Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
+    const QSize size(240, 360);
+    const QUrl url = launch(size);
+    const QString file = QDir(environment.dataDirectory()).filePath(u"cache/"_s + url.fileName());
+    QFile damaged(file);
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write(content);
+    damaged.close();
+    QVERIFY(CoverCache::read(file).isNull());
+
+    CoverCache::ImageProvider provider;
+    QSize served;
+    QCOMPARE(provider.requestImage(url.fileName(), &served, size).size(), size);
+    QCOMPARE(served, size);
+    QCOMPARE(CoverCache::read(file).size(), size); // kept again for the next launch
 }
 
 QTEST_MAIN(TestCoverCache)
