@@ -5,6 +5,7 @@
 // from the press to the first frame showing it, against the same press on an empty table.
 // Prints medians and ratios; nothing is asserted.
 #include "AppDelegate.h"
+#include "BenchData.h"
 #include "BenchTable.h"
 #include "Bundle.h"
 #include "Entities.h"
@@ -203,6 +204,7 @@ double median(QList<double> values)
 
 int main(int argc, char **argv)
 {
+    useOffscreenUnlessTold();
     QGuiApplication app(argc, argv);
     Log::setSink([](const QString &) {});
     benchmark::Initialize(&argc, argv);
