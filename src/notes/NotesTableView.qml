@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Larkwells
 
@@ -84,11 +83,9 @@ Page {
         }
     }
 
-    footer: ToolBar {
+    footer: BottomBar {
         objectName: "undoBar"
         visible: controller.canUndoDelete
-        Material.background: Theme.cellColor
-        Material.foreground: "black"
         Timer {
             // The deletion is final once the undo bar goes; each deletion gets its full time.
             id: undoTimer

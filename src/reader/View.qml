@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Larkwells
 
@@ -71,9 +70,7 @@ Page {
         reader: controller
     }
 
-    footer: ToolBar {
-        Material.background: Theme.cellColor
-        Material.foreground: "black"
+    footer: BottomBar {
         RowLayout {
             anchors.fill: parent
             anchors.leftMargin: 4

@@ -8,6 +8,7 @@ list(APPEND LARKWELLS_SOURCES
 )
 list(APPEND LARKWELLS_QML
     ui/BarButton.qml
+    ui/BottomBar.qml
     ui/FavoriteBox.qml
     ui/FontSizeStepper.qml
     ui/ListCell.qml
