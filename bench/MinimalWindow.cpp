@@ -4,6 +4,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -15,9 +16,13 @@ int main(int argc, char *argv[])
     engine.load(QUrl(u"qrc:/minimal/MinimalWindow.qml"_s));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
-    // As in the application: quit normally once the first frame is on screen.
-    if (auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
-        window && qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
+    // As in the application: the phone-sized window kept within the screen, and a normal quit
+    // once the first frame is on screen.
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    if (!window)
+        return EXIT_FAILURE;
+    window->resize(window->size().boundedTo(window->screen()->availableGeometry().size()));
+    if (qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
         QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QGuiApplication::quit, Qt::QueuedConnection);
     return QGuiApplication::exec();
 }

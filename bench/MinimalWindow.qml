@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Controls
 
 ApplicationWindow {
-    width: 420
-    height: 860
+    width: 412
+    height: 915
     visible: true
     title: "Minimal"
 

@@ -97,6 +97,8 @@ void placeWindow(QQuickWindow *window, const QString &dataDirectory)
     const QRect saved = QSettings(file, QSettings::IniFormat).value(u"geometry"_s).toRect();
     if (saved.isValid() && QGuiApplication::screenAt(saved.center()))
         window->setGeometry(saved);
+    // On a small desktop the phone-sized window would run off the screen, its bottom bar with it.
+    window->resize(window->size().boundedTo(available.size()));
     // Quitting hides the window before aboutToQuit, so the last windowed geometry is kept as it changes.
     auto last = std::make_shared<QRect>(window->geometry());
     const auto keep = [window, last] {
