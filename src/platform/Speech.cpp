@@ -3,20 +3,16 @@
 #include <QTextToSpeech>
 
 namespace {
-// The desktop's engine, started on first use. An engine that cannot start leaves the voice
-// unavailable rather than failing.
+// The desktop's engine, started when a page is first read aloud: starting it loads every voice
+// and opens the sound server, which would otherwise cost each reader's first opening. An engine
+// that cannot start leaves the voice unavailable rather than failing.
 class SystemSpeech final : public Speech
 {
 public:
-    SystemSpeech()
+    bool available() const override
     {
-        if (QTextToSpeech::availableEngines().isEmpty())
-            return;
-        m_engine = std::make_unique<QTextToSpeech>();
-        connect(m_engine.get(), &QTextToSpeech::stateChanged, this, &Speech::stateChanged);
+        return m_offered && (!m_engine || m_engine->state() != QTextToSpeech::Error);
     }
-
-    bool available() const override { return m_engine && m_engine->state() != QTextToSpeech::Error; }
 
     State state() const override
     {
@@ -31,7 +27,7 @@ public:
 
     void say(const QString &text, const QLocale &locale, double rate) override
     {
-        if (!available())
+        if (!start())
             return;
         if (const auto voice = voiceLocale(locale, m_engine->availableLocales()); voice && *voice != m_engine->locale())
             m_engine->setLocale(*voice);
@@ -44,6 +40,19 @@ public:
     void stop() override { if (m_engine) m_engine->stop(); }
 
 private:
+    bool start()
+    {
+        if (m_offered && !m_engine) {
+            m_engine = std::make_unique<QTextToSpeech>();
+            connect(m_engine.get(), &QTextToSpeech::stateChanged, this, &Speech::stateChanged);
+            // An engine that fails as it starts says nothing; the Read Aloud button must still go.
+            if (m_engine->state() == QTextToSpeech::Error)
+                Q_EMIT stateChanged();
+        }
+        return available();
+    }
+
+    const bool m_offered = !QTextToSpeech::availableEngines().isEmpty();
     std::unique_ptr<QTextToSpeech> m_engine;
 };
 
