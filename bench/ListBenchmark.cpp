@@ -151,9 +151,10 @@ int main(int argc, char **argv)
     QQuickWindow *plainWindow = load(plainEngine, QStringLiteral(
         "import QtQuick\nimport QtQuick.Controls\nApplicationWindow { width: %1; height: %2; visible: true\n"
         "ListView { objectName: \"table\"; anchors.fill: parent; model: pages\n"
+        "clip: true; reuseItems: true; cacheBuffer: %4\n"
         "delegate: Text { required property string dateText; required property string pageText\n"
         "height: %3; text: dateText + \" \" + pageText } } }")
-        .arg(window->width()).arg(window->height()).arg(rowHeight).toUtf8());
+        .arg(window->width()).arg(window->height()).arg(rowHeight).arg(list->property("cacheBuffer").toInt()).toUtf8());
     auto *plainList = findItem(plainWindow->contentItem(), u"table"_s);
 
     std::vector<double> frames, plainFrames;
