@@ -1,6 +1,7 @@
 // The composition root: command line, data folder, bundle, services, and the window.
 #include "AppDelegate.h"
 #include "Bundle.h"
+#include "FirstFrameReport.h"
 #include "PersistentContainer.h"
 #include "RemindCommand.h"
 #include "ProductLinks.h"
@@ -195,9 +196,8 @@ int main(int argc, char *argv[])
     if (auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst())) {
         if (!testing)
             placeWindow(window, directory);
-        // For the launch benchmarks (bench/): quit normally once the first frame is on screen.
         if (qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
-            QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QGuiApplication::quit, Qt::QueuedConnection);
+            reportFirstFrameAndQuit(window);
     }
     if (!openPage.isEmpty() && !TodaysPage::open(openPage))
         std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "The book has no page for today.")));

@@ -3,6 +3,7 @@ list(APPEND LARKWELLS_SOURCES
     app/AppDelegate.h app/AppDelegate.cpp
     app/CoverCache.h app/CoverCache.cpp
     app/CoverViewController.h app/CoverViewController.cpp
+    app/FirstFrameReport.h
     app/PageFile.h app/PageFile.cpp
     app/PageFileWriter.h app/PageFileWriter.cpp
     app/PageSeeding.h app/PageSeeding.cpp
