@@ -25,7 +25,14 @@ ApplicationWindow {
         objectName: "stack"
         anchors.fill: parent
         initialItem: CoverView {}
-        onBusyChanged: if (!busy) window.settle()
+        onBusyChanged: {
+            if (busy)
+                return
+            window.settle()
+            // Back at the cover: what the closed screens held goes back to the system.
+            if (depth === 1)
+                Device.releaseUnusedMemory()
+        }
         onDepthChanged: if (!busy) window.settle()
     }
 

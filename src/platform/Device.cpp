@@ -4,6 +4,10 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -13,9 +17,10 @@ Device &Device::shared()
     return *device;
 }
 
-Device *Device::create(QQmlEngine *, QJSEngine *)
+Device *Device::create(QQmlEngine *, QJSEngine *engine)
 {
     QJSEngine::setObjectOwnership(&shared(), QJSEngine::CppOwnership);
+    shared().m_engine = engine;
     return &shared();
 }
 
@@ -46,4 +51,16 @@ int Device::deviceid() const
     case Tablet: Log::line(u"iPad"_s); return 2;
     default: Log::line(u"Not Possible"_s); return 0;
     }
+}
+
+void Device::releaseUnusedMemory()
+{
+    // After the screens' own deferred deletions.
+    QTimer::singleShot(0, this, [this] {
+        if (m_engine)
+            m_engine->collectGarbage();
+#ifdef __GLIBC__
+        malloc_trim(0);
+#endif
+    });
 }

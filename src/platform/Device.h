@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QQmlEngine>
 #include <QSizeF>
 
@@ -27,6 +28,9 @@ public:
     int deviceid() const;
     QSizeF windowSize() const { return m_windowSize; }
     void setWindowSize(const QSizeF &size);
+    // Back at the cover the screens that were read are gone: their script objects are collected
+    // and the freed memory handed back to the system, so the book keeps no more than it shows.
+    Q_INVOKABLE void releaseUnusedMemory();
 
 Q_SIGNALS:
     void idiomChanged();
@@ -34,4 +38,5 @@ Q_SIGNALS:
 private:
     explicit Device(QObject *parent = nullptr) : QObject(parent) {}
     QSizeF m_windowSize;
+    QPointer<QJSEngine> m_engine;
 };
