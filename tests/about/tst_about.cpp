@@ -16,31 +16,20 @@
 
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes)
+QString writePicked(const QTemporaryDir &folder, const QByteArray &bytes)
 {
     const QString path = folder.filePath(u"picked.txt"_s);
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
-    return path;
+    return writeFile(path, bytes) ? path : QString();
 }
 
 QByteArray golden(const QString &name)
 {
-    return contents(QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name);
+    return readFile(QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name);
 }
 
 // A stand-in for xdg-email on PATH: records its arguments, ends with the status asked for. The
@@ -50,10 +39,9 @@ class FakeMailer
 public:
     explicit FakeMailer(int status)
     {
-        QFile script(m_folder.filePath(u"xdg-email"_s));
-        script.open(QIODevice::WriteOnly);
-        script.write("#!/bin/sh\nprintf '%s\\n' \"$@\" > \"$(dirname \"$0\")/arguments\"\nexit " + QByteArray::number(status) + "\n");
-        script.setPermissions(script.permissions() | QFile::ExeOwner);
+        const QString script = m_folder.filePath(u"xdg-email"_s);
+        writeFile(script, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"$(dirname \"$0\")/arguments\"\nexit " + QByteArray::number(status) + "\n");
+        QFile::setPermissions(script, QFile::permissions(script) | QFile::ExeOwner);
         qputenv("PATH", m_folder.path().toUtf8() + ':' + m_path);
         qputenv("TMPDIR", m_folder.path().toUtf8());
     }
@@ -62,7 +50,11 @@ public:
         qputenv("PATH", m_path);
         qunsetenv("TMPDIR");
     }
-    QStringList arguments() const { return QString::fromUtf8(contents(temporary(u"arguments"_s))).split(u'\n', Qt::SkipEmptyParts); }
+    QStringList arguments() const
+    {
+        const QString file = temporary(u"arguments"_s);
+        return QFile::exists(file) ? QString::fromUtf8(readFile(file)).split(u'\n', Qt::SkipEmptyParts) : QStringList();
+    }
     QString temporary(const QString &name) const { return m_folder.filePath(name); }
 
 private:
@@ -282,7 +274,7 @@ void TestAbout::import()
     AboutImportViewController controller;
     QVERIFY(!controller.ImportButtonEnabled());
     if (!file.isNull()) {
-        controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, file)));
+        controller.documentPicker(QUrl::fromLocalFile(writePicked(folder, file)));
         QVERIFY(controller.ImportButtonEnabled());
     }
     QSignalSpy presented(&Alerts::shared(), &Alerts::presented);
@@ -305,9 +297,9 @@ void TestAbout::unreadableFileChangesNothing()
     TestEnvironment environment;
     QTemporaryDir folder;
     AboutImportViewController controller;
-    controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, "[ABOUT]\nA^b\n")));
+    controller.documentPicker(QUrl::fromLocalFile(writePicked(folder, "[ABOUT]\nA^b\n")));
     controller.documentPicker(QUrl::fromLocalFile(folder.filePath(u"gone.txt"_s)));
-    controller.documentPicker(QUrl::fromLocalFile(writeFile(folder, "\xc3\x28 not UTF-8")));
+    controller.documentPicker(QUrl::fromLocalFile(writePicked(folder, "\xc3\x28 not UTF-8")));
     QCOMPARE(environment.logLines.size(), 2);
     QCOMPARE(controller.ImportTextView(), u"[ABOUT]\nA^b\n"_s);
 }
@@ -401,7 +393,7 @@ void TestAbout::savesAndSharesTheFile()
     controller.SaveToFiles();
     const QString written = mailer.temporary(u"PoemPrayer.txt"_s);
     QCOMPARE(environment.logLines, QStringList{written});
-    QCOMPARE(contents(written), QByteArray("[POEMPRAYER]\nd1^PM^1^1^2^T^Night\n")); // the file as built
+    QCOMPARE(readFile(written), QByteArray("[POEMPRAYER]\nd1^PM^1^1^2^T^Night\n")); // the file as built
     QVERIFY(Sharing::shared().showing() && Sharing::shared().sharesFile());
     QCOMPARE(Sharing::shared().suggestedCopy().fileName(), u"PoemPrayer.txt"_s);
 
@@ -411,7 +403,7 @@ void TestAbout::savesAndSharesTheFile()
     dismissAlerts();
     const QString copy = mailer.temporary(u"copy.txt"_s);
     Sharing::shared().saveCopy(QUrl::fromLocalFile(copy));
-    QCOMPARE(contents(copy), contents(written));
+    QCOMPARE(readFile(copy), readFile(written));
     QVERIFY(!Sharing::shared().showing());
 }
 
@@ -457,7 +449,7 @@ void TestAbout::mail()
         buildEditAndMail(screen, u"edited twice"_s);
         const QString attachment = mailer.temporary(fileName);
         QTRY_COMPARE(mailer.arguments(), (QStringList{u"--subject"_s, subject, u"--body"_s, body, u"--attach"_s, attachment}));
-        QCOMPARE(contents(attachment), QByteArray("edited twice")); // the text view's content, edits included
+        QCOMPARE(readFile(attachment), QByteArray("edited twice")); // the text view's content, edits included
         QCOMPARE(mailAlerts().size(), 1);
     }
     FakeMailer failing(3);
@@ -494,15 +486,7 @@ void TestAbout::firstLaunchSeedingCopiesTheStoreFirst()
     PageSeeding().clearPoemPrayers();
     const QString copy = StoreSnapshots::latest(u"first-launch"_s);
     QVERIFY(!copy.isEmpty());
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"copy"_s);
-        database.setDatabaseName(copy);
-        QVERIFY(database.open());
-        QSqlQuery query(u"SELECT poemprayer FROM PoemPrayer"_s, database);
-        QVERIFY(query.next());
-        QCOMPARE(query.value(0).toString(), u"A favourite kept in the copy"_s);
-    }
-    QSqlDatabase::removeDatabase(u"copy"_s);
+    QCOMPARE(sqlRun(copy, {u"SELECT poemprayer FROM PoemPrayer"_s}), QStringList{u"A favourite kept in the copy"_s});
 }
 
 QTEST_MAIN(TestAbout)

@@ -15,7 +15,7 @@ namespace {
 QStringList rowNames(QQuickWindow *window)
 {
     QStringList names;
-    for (int row = 0; QQuickItem *item = findVisibleItem(window->contentItem(), u"row-%1"_s.arg(row)); ++row)
+    for (int row = 0; QQuickItem *item = findVisibleItem(window, u"row-%1"_s.arg(row)); ++row)
         names.append(item->property("modelData").toString());
     return names;
 }
@@ -24,8 +24,7 @@ void typeAtEnd(QQuickWindow *window, QQuickItem *field, const QString &text)
 {
     QMetaObject::invokeMethod(field, "forceActiveFocus");
     QTest::keyClick(window, Qt::Key_End, Qt::ControlModifier);
-    for (const QChar c : text)
-        QTest::keyClick(window, c.toLatin1());
+    typeText(window, text);
 }
 }
 
@@ -106,10 +105,7 @@ void TestAboutPages::exportPagesThenImportAndUndoAnAboutFile()
     insertAbouts({u"Before|-"_s});
     QTemporaryDir folder;
     const QString picked = folder.filePath(u"About.txt"_s);
-    QFile file(picked);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[ABOUT]\nImported^From the file\n");
-    file.close();
+    QVERIFY(writeFile(picked, "[ABOUT]\nImported^From the file\n"));
 
     QQmlApplicationEngine engine;
     QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
@@ -123,7 +119,7 @@ void TestAboutPages::exportPagesThenImportAndUndoAnAboutFile()
              "iCloud Drive. There are size limits to email attachments for most carriers."_s);
     QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
     click(window, exportButton);
-    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ExportTextView"_s)->property("text").toString(),
+    QTRY_COMPARE(findVisibleItem(window, u"ExportTextView"_s)->property("text").toString(),
                  u"[POEMPRAYER]\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
     QVERIFY(!exportButton->isEnabled());
     // The export's alert comes 3 s later, wherever the reader is by then; answered here, its shade
@@ -146,22 +142,11 @@ void TestAboutPages::exportPagesThenImportAndUndoAnAboutFile()
     QVERIFY(picker);
     QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
     QVERIFY(!waitForItem(window, u"ImportButton"_s)->isEnabled());
-    // The picker's own dialog, as if the user chose the file in it and pressed Open.
-    QObject *pickerDialog = nullptr;
-    QTRY_VERIFY(pickerDialog = [window]() -> QObject * {
-        for (QObject *object : window->findChildren<QObject *>()) {
-            if (object->inherits("QQuickFileDialogImpl"))
-                return object;
-        }
-        return nullptr;
-    }());
-    QVERIFY(pickerDialog->setProperty("currentFolder", QUrl::fromLocalFile(folder.path())));
-    QVERIFY(pickerDialog->setProperty("selectedFile", QUrl::fromLocalFile(picked)));
-    QVERIFY(QMetaObject::invokeMethod(pickerDialog, "accept"));
-    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ImportTextView"_s)->property("text").toString(),
+    QVERIFY(chooseInFileDialog(window, picked)); // the picker's own dialog
+    QTRY_COMPARE(findVisibleItem(window, u"ImportTextView"_s)->property("text").toString(),
                  u"[ABOUT]\nImported^From the file\n"_s);
 
-    QTRY_VERIFY(!pickerDialog->property("visible").toBool());
+    QTRY_VERIFY(!picker->property("visible").toBool());
     click(window, waitForItem(window, u"ImportButton"_s));
     QCOMPARE(storedAbouts(), QStringList{u"Imported|From the file"_s});
     QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
