@@ -23,8 +23,7 @@ class TestCover : public QObject
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void leavingClosesTheMenu();
-    void appearingClearsTheListChoice();
+    void leavingClosesTheMenuComingBackClearsTheList();
     void reviewPromptCountsPageOpenings_data();
     void reviewPromptCountsPageOpenings();
     void screenReaderPressesOnlyWhatIsShown();
@@ -45,22 +44,16 @@ bool pressAsScreenReader(QQuickItem *item)
 }
 
 // The flip itself is checked in the window; leaving the cover closes the menu, never opens it.
-void TestCover::leavingClosesTheMenu()
+void TestCover::leavingClosesTheMenuComingBackClearsTheList()
 {
     TestEnvironment environment;
+    Selection::shared().setSelectedList(u"FAV"_s);
     CoverViewController cover;
     cover.viewWillDisappear();
     QVERIFY(!cover.menuOpen());
     cover.HandleSelection();
     cover.viewWillDisappear();
     QVERIFY(!cover.menuOpen());
-}
-
-void TestCover::appearingClearsTheListChoice()
-{
-    TestEnvironment environment;
-    Selection::shared().setSelectedList(u"FAV"_s);
-    CoverViewController cover;
     cover.viewWillAppear();
     QCOMPARE(Selection::shared().selectedList(), QString());
 }

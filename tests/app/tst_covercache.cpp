@@ -56,10 +56,8 @@ void TestCoverCache::keepsOnePicture()
     TestEnvironment environment;
     Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true); // no seeding here
     const QDir data(environment.dataDirectory());
-    if (folderBlocked) {
-        QFile blocker(data.filePath(u"cache"_s)); // a file where the folder would go
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-    }
+    if (folderBlocked)
+        QVERIFY(writeFile(data.filePath(u"cache"_s), {})); // a file where the folder would go
 
     const QDir cache(data.filePath(u"cache"_s));
     const auto file = [&cache](const QUrl &url) { return cache.filePath(url.fileName()); };
@@ -101,10 +99,7 @@ void TestCoverCache::damagedPictureIsDrawnAgain()
     const QSize size(240, 360);
     const QUrl url = launch(size);
     const QString file = QDir(environment.dataDirectory()).filePath(u"cache/"_s + url.fileName());
-    QFile damaged(file);
-    QVERIFY(damaged.open(QIODevice::WriteOnly));
-    damaged.write(content);
-    damaged.close();
+    QVERIFY(writeFile(file, content));
     QVERIFY(CoverCache::read(file).isNull());
 
     CoverCache::ImageProvider provider;

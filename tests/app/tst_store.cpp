@@ -4,9 +4,6 @@
 #include "TestSupport.h"
 
 #include <QDir>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -131,43 +128,23 @@ void TestStore::olderStoreIsUpgradedWithItsRows()
 {
     TestEnvironment environment;
     const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"first-version"_s);
-        db.setDatabaseName(path);
-        QVERIFY(db.open());
-        QSqlQuery query(db);
-        for (const QString &statement :
-             {u"CREATE TABLE PoemPrayer (id INTEGER PRIMARY KEY, ampm TEXT, day INTEGER, dt TEXT, favorite TEXT, "
-              "month INTEGER, pagenum INTEGER, poemprayer TEXT)"_s,
-              u"CREATE TABLE Notes (id INTEGER PRIMARY KEY, ampm TEXT, day INTEGER, dt TEXT, dtstring TEXT, "
-              "month INTEGER, notes TEXT, subject TEXT, year INTEGER)"_s,
-              u"CREATE TABLE SpecialDay (id INTEGER PRIMARY KEY, ampm TEXT, dayname TEXT, poemprayer TEXT)"_s,
-              u"CREATE TABLE About (id INTEGER PRIMARY KEY, aboutText TEXT, name TEXT)"_s,
-              u"CREATE INDEX PoemPrayerDay ON PoemPrayer (month, day, ampm)"_s,
-              u"INSERT INTO PoemPrayer VALUES (1, 'AM', 2, 'January 2', 'T', 1, 3, 'Kept')"_s,
-              u"INSERT INTO Notes (subject, notes, year) VALUES ('Mine', 'every word', 2025)"_s,
-              u"PRAGMA user_version = 1"_s})
-            QVERIFY2(query.exec(statement), qPrintable(query.lastError().text()));
-        db.close();
-    }
-    QSqlDatabase::removeDatabase(u"first-version"_s);
+    QCOMPARE(sqlRun(path, {u"CREATE TABLE PoemPrayer (id INTEGER PRIMARY KEY, ampm TEXT, day INTEGER, dt TEXT, favorite TEXT, "
+                           "month INTEGER, pagenum INTEGER, poemprayer TEXT)"_s,
+                           u"CREATE TABLE Notes (id INTEGER PRIMARY KEY, ampm TEXT, day INTEGER, dt TEXT, dtstring TEXT, "
+                           "month INTEGER, notes TEXT, subject TEXT, year INTEGER)"_s,
+                           u"CREATE TABLE SpecialDay (id INTEGER PRIMARY KEY, ampm TEXT, dayname TEXT, poemprayer TEXT)"_s,
+                           u"CREATE TABLE About (id INTEGER PRIMARY KEY, aboutText TEXT, name TEXT)"_s,
+                           u"CREATE INDEX PoemPrayerDay ON PoemPrayer (month, day, ampm)"_s,
+                           u"INSERT INTO PoemPrayer VALUES (1, 'AM', 2, 'January 2', 'T', 1, 3, 'Kept')"_s,
+                           u"INSERT INTO Notes (subject, notes, year) VALUES ('Mine', 'every word', 2025)"_s,
+                           u"PRAGMA user_version = 1"_s}),
+             QStringList());
 
     QCOMPARE(storedRows<PoemPrayer>({u"dt"_s, u"favorite"_s, u"poemprayer"_s}), QStringList{u"January 2|T|Kept"_s});
     QCOMPARE(storedRows<Notes>({u"notes"_s, u"year"_s}), QStringList{u"every word|2025"_s});
-
-    QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"inspect"_s);
-    db.setDatabaseName(path);
-    QVERIFY(db.open());
-    {
-        QSqlQuery query(db);
-        QVERIFY(query.exec(u"SELECT (SELECT user_version FROM pragma_user_version), count(*) FROM sqlite_master "
-                           "WHERE type = 'index' AND name IN ('PoemPrayerDate', 'SpecialDayName', 'AboutName')"_s)
-                && query.next());
-        QCOMPARE(query.value(0).toString() + u" version, "_s + query.value(1).toString() + u" indexes"_s,
-                 u"2 version, 3 indexes"_s);
-    }
-    db = QSqlDatabase();
-    QSqlDatabase::removeDatabase(u"inspect"_s);
+    QCOMPARE(sqlRun(path, {u"SELECT user_version || ' version, ' || (SELECT count(*) FROM sqlite_master WHERE type = 'index' "
+                           "AND name IN ('PoemPrayerDate', 'SpecialDayName', 'AboutName')) || ' indexes' FROM pragma_user_version"_s}),
+             QStringList{u"2 version, 3 indexes"_s});
 }
 
 QTEST_GUILESS_MAIN(TestStore)
