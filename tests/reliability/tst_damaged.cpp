@@ -6,29 +6,13 @@
 #include "UserDefaults.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 enum class Damage { Truncated, ZeroLength, NotSqlite, FutureVersion, ReadOnly };
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
 
 // A store with enough pages to fill many database pages, closed.
 void writeStore()
@@ -44,23 +28,15 @@ void damage(const QString &path, Damage how)
 {
     switch (how) {
     case Damage::Truncated: {
-        const QByteArray bytes = contentsOf(path);
-        writeFile(path, bytes.left(bytes.size() / 2));
+        const QByteArray bytes = readFile(path);
+        QVERIFY(writeFile(path, bytes.left(bytes.size() / 2)));
         break;
     }
-    case Damage::ZeroLength: writeFile(path, {}); break;
-    case Damage::NotSqlite: writeFile(path, "{\"a text file\": \"placed where the store should be\"}\n"); break;
-    case Damage::FutureVersion: {
-        {
-            QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"damage"_s);
-            database.setDatabaseName(path);
-            QVERIFY(database.open());
-            QSqlQuery(database).exec(u"PRAGMA user_version = 99"_s);
-            QSqlQuery(database).exec(u"PRAGMA journal_mode = DELETE"_s);
-        }
-        QSqlDatabase::removeDatabase(u"damage"_s);
+    case Damage::ZeroLength: QVERIFY(writeFile(path, {})); break;
+    case Damage::NotSqlite: QVERIFY(writeFile(path, "{\"a text file\": \"placed where the store should be\"}\n")); break;
+    case Damage::FutureVersion:
+        QCOMPARE(sqlRun(path, {u"PRAGMA user_version = 99"_s, u"PRAGMA journal_mode = DELETE"_s}), QStringList{u"delete"_s});
         break;
-    }
     case Damage::ReadOnly: QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther); break;
     }
 }
@@ -97,14 +73,14 @@ void TestDamaged::damagedStoreStopsAndIsKept()
     const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
     writeStore();
     damage(path, Damage(how));
-    const QByteArray bytes = contentsOf(path);
+    const QByteArray bytes = readFile(path);
     const QDateTime modified = QFileInfo(path).lastModified();
     QTest::qSleep(20); // a write would show in the modification time
 
     const QString message = fatalStop([] { AppDelegate::shared().viewContext(); });
     QVERIFY2(message.startsWith(reason), qPrintable(message));
     QVERIFY2(message.contains(u", {"_s) && message.contains(path), qPrintable(message));
-    QCOMPARE(contentsOf(path), bytes);
+    QCOMPARE(readFile(path), bytes);
     QCOMPARE(QFileInfo(path).lastModified(), modified);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
 }
@@ -137,7 +113,7 @@ void TestDamaged::damagedPreferencesAreKept()
     QFETCH(bool, keepsWallpaper);
     TestEnvironment environment;
     const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
-    writeFile(path, bytes);
+    QVERIFY(writeFile(path, bytes));
     UserDefaults::setStandardDirectory(environment.dataDirectory());
 
     QString stop;
@@ -150,12 +126,12 @@ void TestDamaged::damagedPreferencesAreKept()
     const QString seen = fatal ? stop : environment.logLines.join(u'\n');
     QVERIFY2(seen.startsWith(message), qPrintable(seen));
     if (fatal) {
-        QCOMPARE(contentsOf(path), bytes);
+        QCOMPARE(readFile(path), bytes);
         return;
     }
     QVERIFY2(seen.endsWith(path + u".damaged"_s), qPrintable(seen));
     Preferences::write(PreferenceKeys::ReaderFontSize, 20.0);
-    QCOMPARE(contentsOf(path + u".damaged"_s), bytes);
+    QCOMPARE(readFile(path + u".damaged"_s), bytes);
     QCOMPARE(UserDefaults(path).doubleForKey(u"ReaderFontSize"_s), 20.0);
 }
 
@@ -164,7 +140,7 @@ void TestDamaged::interruptedFirstStartIsBuiltAgain()
 {
     TestEnvironment environment;
     const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
-    writeFile(path + u".new"_s, QByteArray(1000, '\0'));
+    QVERIFY(writeFile(path + u".new"_s, QByteArray(1000, '\0')));
     writeStore();
     QVERIFY(!QFile::exists(path + u".new"_s));
     QCOMPARE(AppDelegate::shared().viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 200);
