@@ -9,8 +9,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -308,13 +306,9 @@ void TestNotes::failedSaveKeepsTheText()
 {
     TestEnvironment environment;
     AppDelegate::shared().viewContext();
-    {
-        QSqlDatabase saboteur = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"saboteur"_s);
-        saboteur.setDatabaseName(AppDelegate::shared().persistentContainer().storePath());
-        QVERIFY(saboteur.open());
-        QVERIFY(QSqlQuery(saboteur).exec(
-            u"CREATE TRIGGER refuse BEFORE INSERT ON Notes BEGIN SELECT RAISE(ABORT, 'disk full'); END"_s));
-    }
+    const QString store = AppDelegate::shared().persistentContainer().storePath();
+    QCOMPARE(sqlRun(store, {u"CREATE TRIGGER refuse BEFORE INSERT ON Notes BEGIN SELECT RAISE(ABORT, 'disk full'); END"_s}),
+             QStringList());
     EditNotesViewController editor;
     editor.viewDidLoad();
     editor.setSubjectTextField(u"Keep me"_s);
@@ -328,8 +322,7 @@ void TestNotes::failedSaveKeepsTheText()
     QVERIFY(storedNotes().isEmpty());
     QVERIFY(!environment.logLines.isEmpty());
 
-    QVERIFY(QSqlQuery(QSqlDatabase::database(u"saboteur"_s)).exec(u"DROP TRIGGER refuse"_s));
-    QSqlDatabase::removeDatabase(u"saboteur"_s);
+    QCOMPARE(sqlRun(store, {u"DROP TRIGGER refuse"_s}), QStringList());
     editor.SaveButtonClicked();
     QCOMPARE(unwinds.size(), 1);
     QCOMPARE(storedNotes(), QStringList{u"Keep me|every word|-|-|0|0|0|"_s});

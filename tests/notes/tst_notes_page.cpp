@@ -18,8 +18,7 @@ void typeInto(QQuickWindow *window, QQuickItem *field, const QString &text)
 {
     click(window, field);
     QTRY_VERIFY(field->hasActiveFocus());
-    for (const QChar character : text)
-        QTest::keyClick(window, character.toLatin1());
+    typeText(window, text);
 }
 
 QStringList storedSubjects()
@@ -57,7 +56,7 @@ void TestNotesPage::writeFindEditDelete()
     QTest::keyClick(window, Qt::Key_Return);
     QTRY_COMPARE(findItem(window->contentItem(), u"DateTextField"_s)->property("text").toString(),
                  u"Saturday, April 3, 2027"_s);
-    QTRY_VERIFY(!findVisibleItem(window->contentItem(), u"monthWheel"_s));
+    QTRY_VERIFY(!findVisibleItem(window, u"monthWheel"_s));
     typeInto(window, waitForItem(window, u"NotesTextView"_s), u"bring plums"_s);
     click(window, waitForItem(window, u"SaveButton"_s));
     QTRY_COMPARE(topPage(window), u"NotesTableView"_s);
