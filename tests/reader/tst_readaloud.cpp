@@ -36,9 +36,8 @@ private:
     {
         QFETCH(QString, segue);
         QFETCH(QString, page);
-        UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-        QQuickWindow *window = loadMainWindow(engine);
-        if (!window || !waitForItem(window, u"ControlButton"_s))
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        if (!window)
             return nullptr;
         Selection &selection = Selection::shared();
         selection.setSelectedAmpm(u"AM"_s);
@@ -77,7 +76,7 @@ void TestReadAloud::playPauseStopLeave()
     // What the reader offers: the button's label, and whether Stop shows.
     const auto offered = [&] {
         return button->property("label").toString()
-            + (findVisibleItem(window->contentItem(), u"StopReadingButton"_s) ? u" + Stop"_s : u""_s);
+            + (findVisibleItem(window, u"StopReadingButton"_s) ? u" + Stop"_s : u""_s);
     };
     QCOMPARE(offered(), u"Read Aloud"_s);
 
@@ -86,7 +85,7 @@ void TestReadAloud::playPauseStopLeave()
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
     click(window, button);
     QLocale::setDefault(before);
-    auto *text = findVisibleItem(window->contentItem(), u"scroller"_s)->property("textView").value<QQuickItem *>();
+    auto *text = findVisibleItem(window, u"scroller"_s)->property("textView").value<QQuickItem *>();
     QCOMPARE(voice.spokenText, text->property("textDocument").value<QQuickTextDocument *>()->textDocument()->toPlainText());
     QVERIFY(voice.spokenText.contains(u"lark at dawn"_s));
     QCOMPARE(voice.spokenLocale, QLocale(QLocale::German, QLocale::Austria));
@@ -125,7 +124,7 @@ void TestReadAloud::hiddenWithoutEngine()
     QQuickWindow *window = openReader(engine);
     QVERIFY(window && waitForItem(window, u"scroller"_s));
     QVERIFY(findItem(window->contentItem(), u"ReadAloudButton"_s));
-    QVERIFY(!findVisibleItem(window->contentItem(), u"ReadAloudButton"_s));
+    QVERIFY(!findVisibleItem(window, u"ReadAloudButton"_s));
 }
 
 // The slider's rate, kept within the fastest, is stored and read by the next reading.

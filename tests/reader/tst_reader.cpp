@@ -145,8 +145,7 @@ void TestReader::appearanceFromPreferences()
     QFETCH(QVariantMap, preferences);
     QFETCH(QString, shown);
     TestEnvironment environment;
-    for (auto it = preferences.begin(); it != preferences.end(); ++it)
-        UserDefaults::standard().set(it.key(), it.value());
+    setPreferences(preferences);
     select(u"AM"_s);
     ViewController controller;
     const QString stop = fatalStop([&] { controller.viewDidLoad(); });
@@ -359,8 +358,7 @@ void TestReader::specialDayComposesAndStyles()
     QFETCH(QString, text);
     QFETCH(QString, look);
     TestEnvironment environment;
-    for (auto it = preferences.begin(); it != preferences.end(); ++it)
-        UserDefaults::standard().set(it.key(), it.value());
+    setPreferences(preferences);
     selectSpecialDay(ampm, u"Risen\nindeed"_s);
     EditSpecialDaysViewController controller;
     controller.viewDidLoad();

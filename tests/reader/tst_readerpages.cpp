@@ -46,11 +46,6 @@ const QStringList pages{u"January 1|AM|1|1|1|F|Frost on the gate"_s, u"January 1
                         u"January 2|AM|1|2|3|T|Bread rising"_s, u"January 2|PM|1|2|4|F|The owl at the window"_s,
                         u"February 3|AM|2|3|67|F|"_s + longPage};
 
-QQuickItem *visible(QQuickWindow *window, const QString &name)
-{
-    return findVisibleItem(window->contentItem(), name);
-}
-
 // Left/right slide of a finger across the middle of the text.
 void swipe(QQuickWindow *window, int direction)
 {
@@ -68,7 +63,7 @@ void swipe(QQuickWindow *window, int direction)
 void turn(QQuickWindow *window, const QString &how, int direction)
 {
     if (how == u"button")
-        click(window, visible(window, direction < 0 ? u"PreviousPageButton"_s : u"NextPageButton"_s));
+        click(window, findVisibleItem(window, direction < 0 ? u"PreviousPageButton"_s : u"NextPageButton"_s));
     else if (how == u"key")
         QTest::keyClick(window, direction < 0 ? Qt::Key_Left : Qt::Key_Right);
     else
@@ -160,7 +155,7 @@ void TestReaderPages::turnInPageList()
     QQuickWindow *window = openReader(engine, steps[0], steps[1] == u"-" ? QString() : steps[1], steps[2].toInt());
     QVERIFY(window);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    const QUrl wallpaper = visible(window, u"img"_s)->property("source").toUrl();
+    const QUrl wallpaper = findVisibleItem(window, u"img"_s)->property("source").toUrl();
     const qint64 reviewsBefore = reviewCount();
 
     turn(window, how, direction);
@@ -171,10 +166,10 @@ void TestReaderPages::turnInPageList()
     QCOMPARE(selectedPage(), page);
     QCOMPARE(Selection::shared().selectedPoemPrayer(), composed);
     QCOMPARE(reviewCount(), reviewsBefore + 1); // the review rule ran for the new page
-    QCOMPARE(visible(window, u"img"_s)->property("source").toUrl(), wallpaper);
-    QTRY_COMPARE(visible(window, u"FavoriteCheckBox"_s)->property("checkState").toInt(), expected[5] == u"T" ? 1 : 0);
-    QCOMPARE(QString(visible(window, u"PreviousPageButton"_s)->isEnabled() ? u"<"_s : u""_s)
-                 + (visible(window, u"NextPageButton"_s)->isEnabled() ? u">"_s : u""_s),
+    QCOMPARE(findVisibleItem(window, u"img"_s)->property("source").toUrl(), wallpaper);
+    QTRY_COMPARE(findVisibleItem(window, u"FavoriteCheckBox"_s)->property("checkState").toInt(), expected[5] == u"T" ? 1 : 0);
+    QCOMPARE(QString(findVisibleItem(window, u"PreviousPageButton"_s)->isEnabled() ? u"<"_s : u""_s)
+                 + (findVisibleItem(window, u"NextPageButton"_s)->isEnabled() ? u">"_s : u""_s),
              arrows);
 
     // At the end, neither the key nor a swipe goes further.
@@ -187,7 +182,7 @@ void TestReaderPages::turnInPageList()
     }
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), listRow);
+    QTRY_COMPARE(findVisibleItem(window, u"table"_s)->property("currentIndex").toInt(), listRow);
 }
 
 // The list builds its reader before the tap: each one shows the page then chosen, counts one
@@ -230,10 +225,10 @@ void TestReaderPages::turnInSearchResults()
     field->forceActiveFocus();
     for (const char letter : {'L', 'A', 'N', 'E'})
         QTest::keyClick(window, letter, Qt::ShiftModifier);
-    QTRY_COMPARE(visible(window, u"matchCount"_s)->property("text").toString(), u"2 pages match"_s);
+    QTRY_COMPARE(findVisibleItem(window, u"matchCount"_s)->property("text").toString(), u"2 pages match"_s);
     click(window, waitForItem(window, u"row-0"_s));
     QTRY_COMPARE(topPage(window), u"SearchView"_s);
-    QVERIFY(!visible(window, u"PreviousPageButton"_s)->isEnabled());
+    QVERIFY(!findVisibleItem(window, u"PreviousPageButton"_s)->isEnabled());
 
     // The second result, not the next page of the book; its match far below the first screen.
     QTest::keyClick(window, Qt::Key_Right);
@@ -243,17 +238,17 @@ void TestReaderPages::turnInSearchResults()
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
     QTRY_COMPARE(markedFragments(*text->property("textDocument").value<QQuickTextDocument *>()->textDocument()),
                  QStringList{u"lane"_s});
-    QTRY_VERIFY(visible(window, u"scroller"_s)->property("contentY").toDouble() > 500);
-    QVERIFY(visible(window, u"PreviousPageButton"_s)->isEnabled());
-    QVERIFY(!visible(window, u"NextPageButton"_s)->isEnabled());
+    QTRY_VERIFY(findVisibleItem(window, u"scroller"_s)->property("contentY").toDouble() > 500);
+    QVERIFY(findVisibleItem(window, u"PreviousPageButton"_s)->isEnabled());
+    QVERIFY(!findVisibleItem(window, u"NextPageButton"_s)->isEnabled());
     click(window, waitForItem(window, u"FavoriteCheckBox"_s));
     QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).last(), u"T"_s);
 
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
-    QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), 1);
+    QTRY_COMPARE(findVisibleItem(window, u"table"_s)->property("currentIndex").toInt(), 1);
     QCOMPARE(field->property("text").toString(), u"LANE"_s);
-    QTRY_VERIFY(visible(window, u"row-1"_s)->property("favoriteChecked").toBool());
+    QTRY_VERIFY(findVisibleItem(window, u"row-1"_s)->property("favoriteChecked").toBool());
     // Escape empties the field first, then leaves the screen.
     field->forceActiveFocus();
     QTest::keyClick(window, Qt::Key_Escape);
@@ -273,7 +268,7 @@ void TestReaderPages::unsavedEditsKeepThePage()
     QQuickWindow *window = openReader(engine, u"GoodMorningButton"_s, QString(), 0);
     QVERIFY(window);
     QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    QQuickItem *next = visible(window, u"NextPageButton"_s);
+    QQuickItem *next = findVisibleItem(window, u"NextPageButton"_s);
     QTRY_VERIFY(next->isEnabled());
     click(window, waitForItem(window, u"FavoriteCheckBox"_s));
     QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).first(), u"T"_s);
@@ -286,14 +281,14 @@ void TestReaderPages::unsavedEditsKeepThePage()
     click(window, next);
     QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s);
 
-    click(window, visible(window, u"SaveButton"_s));
+    click(window, findVisibleItem(window, u"SaveButton"_s));
     QTRY_VERIFY(next->isEnabled());
     click(window, next);
     QTRY_COMPARE(Selection::shared().selectedDt(), u"January 2"_s);
     QVERIFY(!text->hasActiveFocus());
     click(window, waitForItem(window, u"backButton"_s));
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_VERIFY(visible(window, u"row-0"_s)->property("favoriteChecked").toBool());
+    QTRY_VERIFY(findVisibleItem(window, u"row-0"_s)->property("favoriteChecked").toBool());
 }
 
 // The list and the reader without a mouse: the list keeps its place across a reading, the text
@@ -310,14 +305,14 @@ void TestReaderPages::keyboardAlone()
     QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
     QVERIFY(window);
 
-    auto *table = findVisibleItem(window->contentItem(), u"table"_s);
+    auto *table = findVisibleItem(window, u"table"_s);
     QVERIFY(tabUntil(window, [&](QQuickItem *item) { return table->isAncestorOf(item); }));
     for (int i = 0; i < 40; ++i)
         QTest::keyClick(window, Qt::Key_Down);
     QTRY_COMPARE(table->property("currentIndex").toInt(), 40);
     QTRY_VERIFY(table->property("contentY").toDouble() > 100);
     const auto topInList = [&](const QString &row) {
-        QQuickItem *item = findVisibleItem(window->contentItem(), row);
+        QQuickItem *item = findVisibleItem(window, row);
         return item ? item->mapToItem(table, QPointF(0, 0)).y() : -1e9;
     };
     const double chosenTop = topInList(u"row-40"_s);
@@ -329,7 +324,7 @@ void TestReaderPages::keyboardAlone()
     QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
     QTest::keyClick(window, Qt::Key_Tab);
     QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
-    auto *stepper = findVisibleItem(window->contentItem(), u"FontSizeStepper"_s);
+    auto *stepper = findVisibleItem(window, u"FontSizeStepper"_s);
     const double size = stepper->property("value").toDouble();
     QTest::keyClick(window, Qt::Key_Plus, Qt::ControlModifier);
     QTRY_COMPARE(stepper->property("value").toDouble(), size + 1);
@@ -340,7 +335,7 @@ void TestReaderPages::keyboardAlone()
     QTest::keyClick(window, Qt::Key_Escape);
     QTRY_COMPARE(topPage(window), u"MainTableView"_s);
     QTRY_COMPARE(topInList(u"row-40"_s), chosenTop); // where the reader left it
-    auto *chosen = findVisibleItem(window->contentItem(), u"row-40"_s);
+    auto *chosen = findVisibleItem(window, u"row-40"_s);
     QVERIFY(chosen);
     const QRectF shown = chosen->mapRectToItem(table, chosen->boundingRect());
     QVERIFY(shown.top() >= 0 && shown.bottom() <= table->height());
@@ -354,7 +349,7 @@ void TestReaderPages::keyboardAlone()
     favorites.predicate = Predicate::equals(u"favorite"_s, u"T"_s);
     QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(favorites).size(), 1);
 
-    auto *segments = findVisibleItem(window->contentItem(), u"segment"_s);
+    auto *segments = findVisibleItem(window, u"segment"_s);
     const int segment = segments->property("currentIndex").toInt();
     const int rows = table->property("count").toInt();
     QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == segments; }));
@@ -378,7 +373,7 @@ void TestReaderPages::largeListFontFitsTheRows()
     window->resize(360, 640);
     QQuickItem *row = waitForItem(window, u"row-0"_s);
     QVERIFY(row);
-    QTRY_COMPARE(row->width(), findVisibleItem(window->contentItem(), u"table"_s)->width());
+    QTRY_COMPARE(row->width(), findVisibleItem(window, u"table"_s)->width());
     for (const QString &name : {u"DateLabel"_s, u"PageWords"_s}) {
         QQuickItem *label = findVisibleItem(row, name);
         QVERIFY2(label, qPrintable(name));
@@ -423,9 +418,8 @@ void TestReaderPages::specialDayListReaderAndBack()
 void TestReaderPages::shareSheetOffersThePicture()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = loadLaunchedWindow(engine);
     QVERIFY(window);
     Selection::shared().setSelectedAmpm(u"AM"_s);
     Selection::shared().setSelectedDt(u"May 2"_s);
@@ -442,14 +436,10 @@ void TestReaderPages::shareSheetOffersThePicture()
     QTRY_VERIFY(Sharing::shared().sharesFile());
     QCOMPARE(Sharing::shared().fileName(), u"May 2 Good Morning.png"_s);
     QCOMPARE(environment.logLines.value(0), u"completed"_s);
-    QVERIFY(waitForItem(window, u"share-savecopy"_s) && !visible(window, u"share-picture"_s));
+    QVERIFY(waitForItem(window, u"share-savecopy"_s) && !findVisibleItem(window, u"share-picture"_s));
     const QImage shared(QDir::temp().filePath(Sharing::shared().fileName()));
     QCOMPARE(shared.width(), PagePicture::width);
-    int ink = 0; // the text drawn in black
-    for (int y = 0; y < shared.height(); ++y) {
-        for (int x = 0; x < shared.width(); ++x)
-            ink += qGray(shared.pixel(x, y)) < 60;
-    }
+    const int ink = countPixels(shared, [](QRgb p) { return qGray(p) < 60; }); // the text drawn in black
     QVERIFY2(ink > 5000, qPrintable(QString::number(ink)));
     Sharing::shared().cancel();
 }
