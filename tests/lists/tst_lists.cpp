@@ -71,11 +71,6 @@ QList<SpecialDayFile::Record> parsed(const QByteArray &bytes)
     return std::get<QList<SpecialDayFile::Record>>(records);
 }
 
-QQuickItem *visible(QQuickWindow *window, const QString &name)
-{
-    return findVisibleItem(window->contentItem(), name);
-}
-
 // Two pages a day for a whole leap year, as the book has them.
 void insertLeapYear()
 {
@@ -239,18 +234,18 @@ void TestLists::goToDate()
     click(window, waitForItem(window, u"GoToDateButton"_s));
     QQuickItem *monthWheel = waitForItem(window, u"monthWheel"_s);
     QVERIFY(monthWheel);
-    QVERIFY(!visible(window, u"yearWheel"_s));
+    QVERIFY(!findVisibleItem(window, u"yearWheel"_s));
     monthWheel->setProperty("currentIndex", month - 1);
-    QQuickItem *dayWheel = visible(window, u"dayWheel"_s);
+    QQuickItem *dayWheel = findVisibleItem(window, u"dayWheel"_s);
     QTRY_COMPARE(dayWheel->property("count").toInt(), QDate(2024, month, 1).daysInMonth());
     dayWheel->setProperty("currentIndex", day - 1);
-    click(window, visible(window, u"DoneButton"_s));
+    click(window, findVisibleItem(window, u"DoneButton"_s));
 
-    QTRY_VERIFY(!visible(window, u"monthWheel"_s));
-    QCOMPARE(visible(window, u"segment"_s)->property("currentIndex").toInt(), 1);
-    auto *table = visible(window, u"table"_s);
+    QTRY_VERIFY(!findVisibleItem(window, u"monthWheel"_s));
+    QCOMPARE(findVisibleItem(window, u"segment"_s)->property("currentIndex").toInt(), 1);
+    auto *table = findVisibleItem(window, u"table"_s);
     const int row = table->property("currentIndex").toInt();
-    QQuickItem *found = visible(window, u"row-%1"_s.arg(row));
+    QQuickItem *found = findVisibleItem(window, u"row-%1"_s.arg(row));
     QVERIFY(found);
     QCOMPARE(found->property("dateText").toString(), QString::fromLatin1(QTest::currentDataTag()));
     QVERIFY(found->property("pageText").toString().startsWith(u"Good Morning"_s));
@@ -466,9 +461,7 @@ void TestLists::specialDaysWriterRoundTrips()
     QCOMPARE(std::get<QByteArray>(SpecialDayFile::write(parsed(file))), file);
 
     // The shipped file survives a round trip day for day.
-    QFile shipped(TestEnvironment::sourceResources() + u"/SpecialDays.txt"_s);
-    QVERIFY(shipped.open(QIODevice::ReadOnly));
-    const QList<SpecialDayFile::Record> days = parsed(shipped.readAll());
+    const QList<SpecialDayFile::Record> days = parsed(readFile(TestEnvironment::sourceResources() + u"/SpecialDays.txt"_s));
     QVERIFY(days.size() > 40);
     const QList<SpecialDayFile::Record> again = parsed(std::get<QByteArray>(SpecialDayFile::write(days)));
     QCOMPARE(again.size(), days.size());
