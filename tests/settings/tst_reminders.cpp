@@ -75,8 +75,7 @@ struct Desktop {
     }
     QString read(const QString &file) const
     {
-        QFile f(QDir(config.path()).filePath(file));
-        return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+        return QString::fromUtf8(readFile(QDir(config.path()).filePath(file)));
     }
 };
 
@@ -314,19 +313,18 @@ void TestReminders::rowsInTheWindow()
     QTRY_VERIFY(UserDefaults::standard().boolForKey(u"NightReminder"_s));
     QCOMPARE(desktop.entries(), (QStringList{u"systemd"_s, u"systemd/user"_s, u"systemd/user/larkwells-night-reminder.service"_s,
                                              u"systemd/user/larkwells-night-reminder.timer"_s}));
-    const auto typeTime = [&](std::string_view time) {
+    const auto typeTime = [&](const QString &time) {
         nightTime->forceActiveFocus(Qt::TabFocusReason);
         QTest::keySequence(window, QKeySequence::SelectAll);
-        for (const char key : time)
-            QTest::keyClick(window, key);
+        typeText(window, time);
         QTest::keyClick(window, Qt::Key_Tab);
     };
-    typeTime("22:15");
+    typeTime(u"22:15"_s);
     QTRY_COMPARE(UserDefaults::standard().stringForKey(u"NightReminderTime"_s), u"22:15"_s);
     QVERIFY(desktop.read(u"systemd/user/larkwells-night-reminder.timer"_s).contains(u"22:15:00"_s));
 
     // An unreadable time goes back to the stored one.
-    typeTime("99");
+    typeTime(u"99"_s);
     QTRY_COMPARE(nightTime->property("text").toString(), u"22:15"_s);
 
     click(window, waitForItem(window, u"NightReminderSwitch"_s));

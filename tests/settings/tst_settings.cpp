@@ -18,12 +18,6 @@ using namespace Qt::StringLiterals;
 using Type = UserDefaults::Type;
 
 namespace {
-void store(const QVariantMap &preferences)
-{
-    for (auto it = preferences.begin(); it != preferences.end(); ++it)
-        UserDefaults::standard().set(it.key(), it.value());
-}
-
 // The stored value and its type, as "integer 17", "double 18", "string true" or "absent".
 QString stored(const QString &key)
 {
@@ -117,7 +111,7 @@ void TestSettings::firstVisitWritesOnlyWhatIsMissing()
     QFETCH(QStringList, after);
     QFETCH(QStringList, shown);
     TestEnvironment environment;
-    store(before);
+    setPreferences(before);
     DefaultsViewController controller;
     controller.viewDidLoad();
     QCOMPARE((QStringList{stored(u"ListFontSize"_s), stored(u"ReaderFontSize"_s), stored(u"textColor"_s),

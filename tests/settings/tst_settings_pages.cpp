@@ -53,12 +53,10 @@ void TestSettingsPages::defaultsReachTheNextReader()
     // The reader font by keyboard: filter, down into the list, Enter.
     click(window, waitForItem(window, u"FontListTextField"_s));
     QTRY_VERIFY(waitForItem(window, u"FontFilterField"_s) && waitForItem(window, u"FontFilterField"_s)->hasActiveFocus());
-    for (const char letter : "serif")
-        if (letter)
-            QTest::keyClick(window, letter);
+    typeText(window, u"serif"_s);
     QTest::keyClick(window, Qt::Key_Down);
     QTest::keyClick(window, Qt::Key_Return);
-    QTRY_VERIFY(!findVisibleItem(window->contentItem(), u"FontFilterField"_s));
+    QTRY_VERIFY(!findVisibleItem(window, u"FontFilterField"_s));
     const QString font = text(window, u"FontListTextField"_s);
     QVERIFY2(font.contains(u"serif"_s, Qt::CaseInsensitive), qPrintable(font));
 
@@ -66,7 +64,7 @@ void TestSettingsPages::defaultsReachTheNextReader()
     click(window, waitForItem(window, u"ListFontTextField"_s));
     QTRY_VERIFY(waitForItem(window, u"FontFilterField"_s));
     QTest::keyClick(window, Qt::Key_Escape);
-    QTRY_VERIFY(!findVisibleItem(window->contentItem(), u"FontFilterField"_s));
+    QTRY_VERIFY(!findVisibleItem(window, u"FontFilterField"_s));
     QCOMPARE(topPage(window), u"DefaultsView"_s);
     QTest::keyClick(window, Qt::Key_Escape);
     QTRY_COMPARE(topPage(window), u"CoverView"_s);
@@ -99,7 +97,7 @@ void TestSettingsPages::wallpaperRowsToggleByTouchAndKeyboard()
     QVERIFY(window);
     click(window, waitForItem(window, u"AvailableWallpaperButton"_s));
     QTRY_COMPARE(topPage(window), u"ViewerWallpaperTableView"_s);
-    QVERIFY(!findVisibleItem(window->contentItem(), u"NoneInUseLabel"_s));
+    QVERIFY(!findVisibleItem(window, u"NoneInUseLabel"_s));
     QQuickItem *row = waitForItem(window, u"row-0"_s);
     QCOMPARE(text(window, u"UseLabel"_s), u"Used"_s);
     QVERIFY(findItem(row, u"ViewerImageView"_s)->height() >= 160);
@@ -118,7 +116,7 @@ void TestSettingsPages::wallpaperRowsToggleByTouchAndKeyboard()
     QVERIFY(waitForItem(window, u"NoneInUseLabel"_s));
     QCOMPARE(text(window, u"NoneInUseLabel"_s), u"No wallpaper of this set is in use"_s);
     click(window, waitForItem(window, u"ListCheckBox"_s));
-    QTRY_VERIFY(!findVisibleItem(window->contentItem(), u"NoneInUseLabel"_s));
+    QTRY_VERIFY(!findVisibleItem(window, u"NoneInUseLabel"_s));
     QCOMPARE(UserDefaults::standard().stringForKey(u"AM-36"_s), u"true"_s);
 }
 
