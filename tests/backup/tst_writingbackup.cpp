@@ -73,8 +73,7 @@ QString goldenPath(const QString &name)
 
 QByteArray golden(const QString &name)
 {
-    QFile file(goldenPath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing golden file");
+    return readFile(goldenPath(name));
 }
 
 void setPage(int month, int day, const QString &ampm, const std::optional<QString> &favorite,
@@ -105,21 +104,6 @@ void writeSomeWriting()
 }
 
 // The menu's restore, as the picker hands it a file; the alert it raised.
-// Once the file dialog is on screen, the user chooses `file` in it and presses its button.
-bool chooseInFileDialog(QQuickWindow *window, const QString &file)
-{
-    QObject *dialog = nullptr;
-    const bool shown = QTest::qWaitFor([&] {
-        for (QObject *object : window->findChildren<QObject *>()) {
-            if (object->inherits("QQuickFileDialogImpl") && object->property("visible").toBool())
-                dialog = object;
-        }
-        return dialog != nullptr;
-    });
-    return shown && dialog->setProperty("currentFolder", QUrl::fromLocalFile(QFileInfo(file).path()))
-        && dialog->setProperty("selectedFile", QUrl::fromLocalFile(file)) && QMetaObject::invokeMethod(dialog, "accept");
-}
-
 QString pick(ExportLarkwellFilesViewController &menu, const QString &path)
 {
     menu.documentPicker(QUrl::fromLocalFile(path));
@@ -188,11 +172,11 @@ void TestWritingBackup::refusedFilesWriteNothing()
     writeSomeWriting();
     const QStringList before = storedWriting();
     QTemporaryDir folder;
-    QFile picked(folder.filePath(u"picked.json"_s));
-    QVERIFY(picked.open(QIODevice::WriteOnly) && picked.write(file) == file.size() && picked.flush());
+    const QString picked = folder.filePath(u"picked.json"_s);
+    QVERIFY(writeFile(picked, file));
 
     ExportLarkwellFilesViewController menu;
-    QCOMPARE(pick(menu, picked.fileName()), message);
+    QCOMPARE(pick(menu, picked), message);
     QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
     Alerts::shared().dismiss(0);
     QCOMPARE(storedWriting(), before);
