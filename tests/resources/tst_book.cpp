@@ -15,8 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 QByteArray shipped(const QString &name)
 {
-    QFile file(TestEnvironment::sourceResources() + u'/' + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readFile(TestEnvironment::sourceResources() + u'/' + name);
 }
 
 // Every character Windows-1250 can hold.
