@@ -119,15 +119,13 @@ void TestSharing::missingDialogModuleIsAnAlert()
 {
     TestEnvironment environment;
     QTemporaryDir folder;
-    QFile broken(folder.filePath(u"Dialog.qml"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("import Qt.labs.notinstalled\nimport QtQuick\nItem {}\n");
-    broken.close();
+    const QString broken = folder.filePath(u"Dialog.qml"_s);
+    QVERIFY(writeFile(broken, "import Qt.labs.notinstalled\nimport QtQuick\nItem {}\n"));
     QQmlEngine engine;
     const auto shown = showSheet(engine);
     QQuickWindow *window = shown.get();
     QVERIFY(window);
-    window->findChild<QObject *>(u"sheet"_s)->setProperty("saveDialogSource", QUrl::fromLocalFile(broken.fileName()));
+    window->findChild<QObject *>(u"sheet"_s)->setProperty("saveDialogSource", QUrl::fromLocalFile(broken));
     QTest::failOnWarning(QRegularExpression(u"^(?!.*notinstalled).*qml.*"_s));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"notinstalled"_s));
     QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
