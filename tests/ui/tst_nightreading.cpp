@@ -190,16 +190,14 @@ void TestNightReading::whenTheNightLookShows()
 void TestNightReading::switchingOffRestoresTheLook()
 {
     TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
     UserDefaults::standard().set(u"useWallpaper"_s, 1);
     UserDefaults::standard().set(u"textColor"_s, 3);
     // One wallpaper may be drawn, so every opening shows the same one.
     for (const QString &name : Wallpapers::ViewerWallpaper())
         UserDefaults::standard().set(name, name == u"Page1" ? u"true"_s : u"false"_s);
     QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
+    QQuickWindow *window = loadLaunchedWindow(engine);
     QVERIFY(window);
-    QVERIFY(waitForItem(window, u"ControlButton"_s));
 
     const auto look = [&] {
         selectPage(true);
