@@ -3,7 +3,6 @@
 #include "UserDefaults.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
@@ -35,9 +34,8 @@ private Q_SLOTS:
         UserDefaults::standard().set(u"key"_s, value);
 
         // What another program reads from the file.
-        QFile file(QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QJsonObject entry = QJsonDocument::fromJson(file.readAll()).object().value(u"key"_s).toObject();
+        const QByteArray file = readFile(QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s));
+        const QJsonObject entry = QJsonDocument::fromJson(file).object().value(u"key"_s).toObject();
         QCOMPARE(entry.value(u"type"_s).toString(), type);
         QCOMPARE(entry.value(u"value"_s), json);
 
