@@ -3,7 +3,6 @@
 #include "SpecialDayFile.h"
 #include "TestSupport.h"
 
-#include <QFile>
 #include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
