@@ -80,63 +80,6 @@ private Q_SLOTS:
         QCOMPARE(UserDefaults::standard().stringForKey(u"lastReviewRequestAppVersion"_s).value_or(u"-"_s), lastVersion);
     }
 
-    // Every menu button, the always hidden one too, pressed through the accessibility interface with
-    // the menu closed and open: hidden and disabled buttons refuse, shown ones open their screen,
-    // and no press ends the application.
-    void screenReaderPressesOnlyWhatIsShown()
-    {
-        TestEnvironment environment;
-        QQmlApplicationEngine engine;
-        QQuickWindow *window = loadMainWindow(engine); // a first launch: the book is seeded
-        QVERIFY(window);
-        QTRY_VERIFY(Alerts::shared().showing());
-        dismissAlerts();
-        auto *stack = findItem(window->contentItem(), u"stack"_s);
-        auto *control = findItem(window->contentItem(), u"ControlButton"_s);
-        QVERIFY(stack && control);
-        // Each button by its object name, and the name a screen reader says.
-        const QList<std::pair<QString, QString>> buttons{
-            {u"TodayButton"_s, u"Today"_s}, {u"GoodMorningButton"_s, u"Good Morning"_s}, {u"GoodNightButton"_s, u"Good Night"_s},
-            {u"FavoritesButton"_s, u"Favorites"_s}, {u"SpecialDaysButton"_s, u"Special Days"_s}, {u"SearchButton"_s, u"Search"_s},
-            {u"NotesButton"_s, u"Notes"_s}, {u"AboutButton"_s, u"About"_s}, {u"UserDefaultsButton"_s, u"User Defaults"_s},
-            {u"RateShareButton"_s, u"Rate & Share"_s}, {u"ImportExportButton"_s, u"Import & Export"_s},
-            {u"ResetButton"_s, u"Update Files"_s}};
-        // Opened and closed once: a menu never opened has no buttons yet.
-        for (int flip = 0; flip < 2; ++flip)
-            QVERIFY(pressAsScreenReader(control));
-        QTRY_VERIFY(!findItem(window->contentItem(), u"TodayButton"_s)->isVisible());
-        int opened = 0;
-        for (const bool open : {false, true}) {
-            if (open) {
-                QVERIFY(pressAsScreenReader(control));
-                QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
-            }
-            QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name),
-                     open ? u"Close menu"_s : u"Menu"_s);
-            for (const auto &[name, title] : buttons) {
-                auto *button = findItem(window->contentItem(), name);
-                QVERIFY2(button, qPrintable(name));
-                QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name), title);
-                const bool pressable = button->isVisible() && button->isEnabled();
-                if (!open || name == u"ImportExportButton"_s)
-                    QVERIFY2(!pressable, qPrintable(name));
-                opened += pressable;
-                const QString stop = fatalStop([&] { pressAsScreenReader(button); });
-                QVERIFY2(stop.isEmpty(), qPrintable(name + u" ended the application: "_s + stop));
-                QTRY_COMPARE(stack->property("depth").toInt(), pressable ? 2 : 1);
-                if (pressable) {
-                    Navigator::shared().popToRoot();
-                    QTRY_COMPARE(stack->property("depth").toInt(), 1);
-                    if (!findItem(window->contentItem(), u"TodayButton"_s)->isVisible()) {
-                        QVERIFY(pressAsScreenReader(control)); // leaving closed the menu
-                        QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
-                    }
-                }
-            }
-        }
-        QVERIFY(opened >= 4); // the four list buttons at least
-    }
-
     // On the page list a screen reader's press marks the row's favourite and switches the segment.
     void screenReaderOnThePageList()
     {
