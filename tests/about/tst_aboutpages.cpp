@@ -15,7 +15,7 @@ namespace {
 QStringList rowNames(QQuickWindow *window)
 {
     QStringList names;
-    for (int row = 0; QQuickItem *item = findVisibleItem(window->contentItem(), u"row-%1"_s.arg(row)); ++row)
+    for (int row = 0; QQuickItem *item = findVisibleItem(window, u"row-%1"_s.arg(row)); ++row)
         names.append(item->property("modelData").toString());
     return names;
 }
@@ -24,8 +24,7 @@ void typeAtEnd(QQuickWindow *window, QQuickItem *field, const QString &text)
 {
     QMetaObject::invokeMethod(field, "forceActiveFocus");
     QTest::keyClick(window, Qt::Key_End, Qt::ControlModifier);
-    for (const QChar c : text)
-        QTest::keyClick(window, c.toLatin1());
+    typeText(window, text);
 }
 }
 
@@ -37,150 +36,134 @@ class TestAboutPages : public QObject
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void readResizeEditSaveAndWriteNew();
-    void exportPagesThenImportAndUndoAnAboutFile();
-};
 
-void TestAboutPages::readResizeEditSaveAndWriteNew()
-{
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"AboutHasBeenLaunchedBeforeFlag"_s, true);
-    UserDefaults::standard().set(u"useWallpaper"_s, 1);
-    insertAbouts({u"Good Night Preface|Rest now."_s, u"Good Morning Authors|We wrote it."_s});
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"AboutButton"_s, u"AboutTableView"_s);
-    QVERIFY(window);
-    QVERIFY(waitForItem(window, u"row-1"_s));
-    QCOMPARE(rowNames(window), (QStringList{u"Good Morning Authors"_s, u"Good Night Preface"_s}));
+    void readResizeEditSaveAndWriteNew()
+    {
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"AboutHasBeenLaunchedBeforeFlag"_s, true);
+        UserDefaults::standard().set(u"useWallpaper"_s, 1);
+        insertAbouts({u"Good Night Preface|Rest now."_s, u"Good Morning Authors|We wrote it."_s});
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"AboutButton"_s, u"AboutTableView"_s);
+        QVERIFY(window);
+        QVERIFY(waitForItem(window, u"row-1"_s));
+        QCOMPARE(rowNames(window), (QStringList{u"Good Morning Authors"_s, u"Good Night Preface"_s}));
 
-    click(window, waitForItem(window, u"row-1"_s));
-    QTRY_COMPARE(topPage(window), u"AboutEditView"_s);
-    QQuickItem *text = waitForItem(window, u"AboutItemTextView"_s);
-    QVERIFY(text);
-    const QString shown = u"From The Larkwells\n Good Night \n\n Rest now."_s;
-    QCOMPARE(text->property("text").toString(), shown);
-    QCOMPARE(text->property("horizontalAlignment").toInt(), int(Qt::AlignHCenter));
+        click(window, waitForItem(window, u"row-1"_s));
+        QTRY_COMPARE(topPage(window), u"AboutEditView"_s);
+        QQuickItem *text = waitForItem(window, u"AboutItemTextView"_s);
+        QVERIFY(text);
+        const QString shown = u"From The Larkwells\n Good Night \n\n Rest now."_s;
+        QCOMPARE(text->property("text").toString(), shown);
+        QCOMPARE(text->property("horizontalAlignment").toInt(), int(Qt::AlignHCenter));
 
-    // Turning the screen back and forth lays nothing more beneath the text.
-    QQuickItem *scroller = findItem(window->contentItem(), u"scroller"_s);
-    auto *content = scroller->property("contentItem").value<QQuickItem *>();
-    const qsizetype layers = content->childItems().size();
-    for (int turn = 0; turn < 100; ++turn) {
-        window->resize(turn % 2 ? QSize(420, 860) : QSize(860, 420));
-        QCoreApplication::processEvents();
-    }
-    QCOMPARE(content->childItems().size(), layers);
-
-    QTest::keyClick(window, Qt::Key_Equal, Qt::ControlModifier); // the reader's keyboard zoom
-    QTRY_COMPARE(text->property("font").value<QFont>().pixelSize(), 16);
-    QCOMPARE(UserDefaults::standard().typeOf(u"ReaderFontSize"_s), UserDefaults::Type::Double);
-    QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 16.0);
-
-    typeAtEnd(window, text, u" Sleep."_s);
-    click(window, waitForItem(window, u"SaveButton"_s));
-    QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
-    QCOMPARE(storedAbouts().first(), u"Good Night Preface|"_s + shown + u" Sleep."_s);
-
-    click(window, waitForItem(window, u"NewArticleButton"_s));
-    QTRY_COMPARE(topPage(window), u"AboutNewView"_s);
-    typeAtEnd(window, waitForItem(window, u"NameTextField"_s), u"Good Morning Acknowledgements"_s);
-    typeAtEnd(window, waitForItem(window, u"AboutItemTextView"_s), u"Thanks."_s);
-    click(window, waitForItem(window, u"SaveButton"_s));
-    QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
-    QTRY_COMPARE(rowNames(window), (QStringList{u"Good Morning Acknowledgements"_s, u"Good Morning Authors"_s,
-                                                u"Good Night Preface"_s}));
-
-    click(window, waitForItem(window, u"row-1"_s));
-    QTRY_COMPARE(topPage(window), u"AboutEditView"_s);
-    text = waitForItem(window, u"AboutItemTextView"_s);
-    QCOMPARE(text->property("text").toString(), u"From The Larkwells\nGood Morning Authors\n\nWe wrote it."_s);
-    QCOMPARE(text->property("horizontalAlignment").toInt(), int(Qt::AlignLeft));
-    QTest::keyClick(window, Qt::Key_Escape);
-    QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
-}
-
-void TestAboutPages::exportPagesThenImportAndUndoAnAboutFile()
-{
-    TestEnvironment environment;
-    insertPages({u"January 1|AM|1|1|1|F|Snow"_s});
-    insertAbouts({u"Before|-"_s});
-    QTemporaryDir folder;
-    const QString picked = folder.filePath(u"About.txt"_s);
-    QFile file(picked);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[ABOUT]\nImported^From the file\n");
-    file.close();
-
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
-    QVERIFY(window);
-    click(window, waitForItem(window, u"PoemPrayerButton"_s));
-    QTRY_COMPARE(topPage(window), u"ExportView"_s);
-    QObject *exportScreen = currentScreen(window)->property("controller").value<QObject *>();
-    QCOMPARE(exportScreen->property("HelpTextView").toString(),
-             u"Step 1: Create the Export File\nStep 2: Option 1: Click 'Save To Files' button\n             Option 2: "
-             "Click the Email File button to email the file to yourself and then from your email save the file to your "
-             "iCloud Drive. There are size limits to email attachments for most carriers."_s);
-    QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
-    click(window, exportButton);
-    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ExportTextView"_s)->property("text").toString(),
-                 u"[POEMPRAYER]\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
-    QVERIFY(!exportButton->isEnabled());
-    // The export's alert comes 3 s later, wherever the reader is by then; answered here, its shade
-    // cannot take a later click.
-    QTRY_COMPARE_WITH_TIMEOUT(Alerts::shared().message(), u"Process Complete - File Ready to Save To Files or Email"_s, 6000);
-    QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
-    Alerts::shared().dismiss(0);
-    // Typing in the shown file edits the text the mail would send.
-    click(window, waitForItem(window, u"ExportTextViewBlock0"_s));
-    QTest::keyClick(window, Qt::Key_End);
-    QTest::keyClick(window, '!');
-    QTRY_COMPARE(exportScreen->property("ExportTextView").toString(), u"[POEMPRAYER]!\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
-    QVERIFY(waitForItem(window, u"SaveButton"_s)->isEnabled() && waitForItem(window, u"EmailButton"_s)->isEnabled());
-
-    click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
-    click(window, waitForItem(window, u"AboutButton"_s));
-    QTRY_COMPARE(topPage(window), u"AboutImportView"_s);
-    QObject *picker = currentScreen(window)->findChild<QObject *>(u"documentPicker"_s);
-    QVERIFY(picker);
-    QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
-    QVERIFY(!waitForItem(window, u"ImportButton"_s)->isEnabled());
-    // The picker's own dialog, as if the user chose the file in it and pressed Open.
-    QObject *pickerDialog = nullptr;
-    QTRY_VERIFY(pickerDialog = [window]() -> QObject * {
-        for (QObject *object : window->findChildren<QObject *>()) {
-            if (object->inherits("QQuickFileDialogImpl"))
-                return object;
+        // Turning the screen back and forth lays nothing more beneath the text.
+        QQuickItem *scroller = findItem(window->contentItem(), u"scroller"_s);
+        auto *content = scroller->property("contentItem").value<QQuickItem *>();
+        const qsizetype layers = content->childItems().size();
+        for (int turn = 0; turn < 100; ++turn) {
+            window->resize(turn % 2 ? QSize(420, 860) : QSize(860, 420));
+            QCoreApplication::processEvents();
         }
-        return nullptr;
-    }());
-    QVERIFY(pickerDialog->setProperty("currentFolder", QUrl::fromLocalFile(folder.path())));
-    QVERIFY(pickerDialog->setProperty("selectedFile", QUrl::fromLocalFile(picked)));
-    QVERIFY(QMetaObject::invokeMethod(pickerDialog, "accept"));
-    QTRY_COMPARE(findVisibleItem(window->contentItem(), u"ImportTextView"_s)->property("text").toString(),
-                 u"[ABOUT]\nImported^From the file\n"_s);
+        QCOMPARE(content->childItems().size(), layers);
 
-    QTRY_VERIFY(!pickerDialog->property("visible").toBool());
-    click(window, waitForItem(window, u"ImportButton"_s));
-    QCOMPARE(storedAbouts(), QStringList{u"Imported|From the file"_s});
-    QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
-    Alerts::shared().dismiss(0);
-    QVERIFY(environment.logLines.contains(u"Back button Clicked"_s));
+        QTest::keyClick(window, Qt::Key_Equal, Qt::ControlModifier); // the reader's keyboard zoom
+        QTRY_COMPARE(text->property("font").value<QFont>().pixelSize(), 16);
+        QCOMPARE(UserDefaults::standard().typeOf(u"ReaderFontSize"_s), UserDefaults::Type::Double);
+        QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 16.0);
 
-    QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/Larkwells/about/UndoImportButton.qml"_s));
-    std::unique_ptr<QObject> object(component.create());
-    auto *undo = qobject_cast<QQuickItem *>(object.get());
-    QVERIFY2(undo, qPrintable(component.errorString()));
-    undo->setParentItem(window->contentItem());
-    undo->setZ(1000);
-    QVERIFY(undo->isVisible());
-    QObject *alertDialog = window->findChild<QObject *>(u"alertDialog"_s);
-    QTRY_VERIFY(!alertDialog->property("visible").toBool()); // its modal shade would take the click
-    click(window, undo);
-    QCOMPARE(storedAbouts(), QStringList{u"Before|-"_s});
-    QVERIFY(!undo->isVisible());
-}
+        typeAtEnd(window, text, u" Sleep."_s);
+        click(window, waitForItem(window, u"SaveButton"_s));
+        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+        QCOMPARE(storedAbouts().first(), u"Good Night Preface|"_s + shown + u" Sleep."_s);
+
+        click(window, waitForItem(window, u"NewArticleButton"_s));
+        QTRY_COMPARE(topPage(window), u"AboutNewView"_s);
+        typeAtEnd(window, waitForItem(window, u"NameTextField"_s), u"Good Morning Acknowledgements"_s);
+        typeAtEnd(window, waitForItem(window, u"AboutItemTextView"_s), u"Thanks."_s);
+        click(window, waitForItem(window, u"SaveButton"_s));
+        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+        QTRY_COMPARE(rowNames(window), (QStringList{u"Good Morning Acknowledgements"_s, u"Good Morning Authors"_s,
+                                                    u"Good Night Preface"_s}));
+
+        click(window, waitForItem(window, u"row-1"_s));
+        QTRY_COMPARE(topPage(window), u"AboutEditView"_s);
+        text = waitForItem(window, u"AboutItemTextView"_s);
+        QCOMPARE(text->property("text").toString(), u"From The Larkwells\nGood Morning Authors\n\nWe wrote it."_s);
+        QCOMPARE(text->property("horizontalAlignment").toInt(), int(Qt::AlignLeft));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+    }
+
+    void exportPagesThenImportAndUndoAnAboutFile()
+    {
+        TestEnvironment environment;
+        insertPages({u"January 1|AM|1|1|1|F|Snow"_s});
+        insertAbouts({u"Before|-"_s});
+        QTemporaryDir folder;
+        const QString picked = folder.filePath(u"About.txt"_s);
+        QVERIFY(writeFile(picked, "[ABOUT]\nImported^From the file\n"));
+
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
+        QVERIFY(window);
+        click(window, waitForItem(window, u"PoemPrayerButton"_s));
+        QTRY_COMPARE(topPage(window), u"ExportView"_s);
+        QObject *exportScreen = currentScreen(window)->property("controller").value<QObject *>();
+        QCOMPARE(exportScreen->property("HelpTextView").toString(),
+                 u"Step 1: Create the Export File\nStep 2: Option 1: Click 'Save To Files' button\n             Option 2: "
+                 "Click the Email File button to email the file to yourself and then from your email save the file to your "
+                 "iCloud Drive. There are size limits to email attachments for most carriers."_s);
+        QQuickItem *exportButton = waitForItem(window, u"ExportButton"_s);
+        click(window, exportButton);
+        QTRY_COMPARE(findVisibleItem(window, u"ExportTextView"_s)->property("text").toString(),
+                     u"[POEMPRAYER]\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
+        QVERIFY(!exportButton->isEnabled());
+        // The export's alert comes 3 s later, wherever the reader is by then; answered here, its shade
+        // cannot take a later click.
+        QTRY_COMPARE_WITH_TIMEOUT(Alerts::shared().message(), u"Process Complete - File Ready to Save To Files or Email"_s, 6000);
+        QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+        Alerts::shared().dismiss(0);
+        // Typing in the shown file edits the text the mail would send.
+        click(window, waitForItem(window, u"ExportTextViewBlock0"_s));
+        QTest::keyClick(window, Qt::Key_End);
+        QTest::keyClick(window, '!');
+        QTRY_COMPARE(exportScreen->property("ExportTextView").toString(), u"[POEMPRAYER]!\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
+        QVERIFY(waitForItem(window, u"SaveButton"_s)->isEnabled() && waitForItem(window, u"EmailButton"_s)->isEnabled());
+
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
+        click(window, waitForItem(window, u"AboutButton"_s));
+        QTRY_COMPARE(topPage(window), u"AboutImportView"_s);
+        QObject *picker = currentScreen(window)->findChild<QObject *>(u"documentPicker"_s);
+        QVERIFY(picker);
+        QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
+        QVERIFY(!waitForItem(window, u"ImportButton"_s)->isEnabled());
+        QVERIFY(chooseInFileDialog(window, picked)); // the picker's own dialog
+        QTRY_COMPARE(findVisibleItem(window, u"ImportTextView"_s)->property("text").toString(),
+                     u"[ABOUT]\nImported^From the file\n"_s);
+
+        QTRY_VERIFY(!picker->property("visible").toBool());
+        click(window, waitForItem(window, u"ImportButton"_s));
+        QCOMPARE(storedAbouts(), QStringList{u"Imported|From the file"_s});
+        QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
+        Alerts::shared().dismiss(0);
+        QVERIFY(environment.logLines.contains(u"Back button Clicked"_s));
+
+        QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/Larkwells/about/UndoImportButton.qml"_s));
+        std::unique_ptr<QObject> object(component.create());
+        auto *undo = qobject_cast<QQuickItem *>(object.get());
+        QVERIFY2(undo, qPrintable(component.errorString()));
+        undo->setParentItem(window->contentItem());
+        undo->setZ(1000);
+        QVERIFY(undo->isVisible());
+        QObject *alertDialog = window->findChild<QObject *>(u"alertDialog"_s);
+        QTRY_VERIFY(!alertDialog->property("visible").toBool()); // its modal shade would take the click
+        click(window, undo);
+        QCOMPARE(storedAbouts(), QStringList{u"Before|-"_s});
+        QVERIFY(!undo->isVisible());
+    }
+};
 
 QTEST_MAIN(TestAboutPages)
 #include "tst_aboutpages.moc"

@@ -17,21 +17,6 @@
 
 using namespace Qt::StringLiterals;
 
-class TestCover : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void leavingClosesTheMenu();
-    void appearingClearsTheListChoice();
-    void reviewPromptCountsPageOpenings_data();
-    void reviewPromptCountsPageOpenings();
-    void screenReaderPressesOnlyWhatIsShown();
-    void screenReaderOnThePageList();
-    void segueWithoutScreenStopsNamingIt();
-};
-
 namespace {
 // Presses as a screen reader does; false when the item offers no press at all.
 bool pressAsScreenReader(QQuickItem *item)
@@ -44,145 +29,90 @@ bool pressAsScreenReader(QQuickItem *item)
 }
 }
 
-// The flip itself is checked in the window; leaving the cover closes the menu, never opens it.
-void TestCover::leavingClosesTheMenu()
+class TestCover : public QObject
 {
-    TestEnvironment environment;
-    CoverViewController cover;
-    cover.viewWillDisappear();
-    QVERIFY(!cover.menuOpen());
-    cover.HandleSelection();
-    cover.viewWillDisappear();
-    QVERIFY(!cover.menuOpen());
-}
+    Q_OBJECT
 
-void TestCover::appearingClearsTheListChoice()
-{
-    TestEnvironment environment;
-    Selection::shared().setSelectedList(u"FAV"_s);
-    CoverViewController cover;
-    cover.viewWillAppear();
-    QCOMPARE(Selection::shared().selectedList(), QString());
-}
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
 
-void TestCover::reviewPromptCountsPageOpenings_data()
-{
-    QTest::addColumn<QStringList>("versions"); // the version at each page opening ("-" for none)
-    QTest::addColumn<QList<qint64>>("counts"); // the counter after each opening
-    QTest::addColumn<QString>("lastVersion");  // "-" when absent at the end
-    QTest::newRow("third opening asks, later ones in the same version do not")
-        << QStringList{u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s}
-        << QList<qint64>{1, 2, 0, 1, 2, 3} << u"1.0"_s;
-    QTest::newRow("a new version asks again after three more")
-        << QStringList{u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.1"_s, u"1.1"_s, u"1.1"_s}
-        << QList<qint64>{1, 2, 0, 1, 2, 0} << u"1.1"_s;
-    QTest::newRow("no version: asks every third time and stores none")
-        << QStringList{u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-"_s}
-        << QList<qint64>{1, 2, 0, 1, 2, 0} << u"-"_s;
-}
-
-void TestCover::reviewPromptCountsPageOpenings()
-{
-    QFETCH(QStringList, versions);
-    QFETCH(QList<qint64>, counts);
-    QFETCH(QString, lastVersion);
-    TestEnvironment environment;
-    for (qsizetype i = 0; i < versions.size(); ++i) {
-        ReviewPrompt::run(versions[i] == u"-"_s ? std::nullopt : std::optional(versions[i]));
-        QCOMPARE(UserDefaults::standard().integerForKey(u"reviewWorthyActionCount"_s), counts[i]);
+    // The flip itself is checked in the window; leaving the cover closes the menu, never opens it.
+    void leavingClosesTheMenuComingBackClearsTheList()
+    {
+        TestEnvironment environment;
+        Selection::shared().setSelectedList(u"FAV"_s);
+        CoverViewController cover;
+        cover.viewWillDisappear();
+        QVERIFY(!cover.menuOpen());
+        cover.HandleSelection();
+        cover.viewWillDisappear();
+        QVERIFY(!cover.menuOpen());
+        cover.viewWillAppear();
+        QCOMPARE(Selection::shared().selectedList(), QString());
     }
-    QCOMPARE(UserDefaults::standard().stringForKey(u"lastReviewRequestAppVersion"_s).value_or(u"-"_s), lastVersion);
-}
 
-// Every menu button, the always hidden one too, pressed through the accessibility interface with
-// the menu closed and open: hidden and disabled buttons refuse, shown ones open their screen,
-// and no press ends the application.
-void TestCover::screenReaderPressesOnlyWhatIsShown()
-{
-    TestEnvironment environment;
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine); // a first launch: the book is seeded
-    QVERIFY(window);
-    QTRY_VERIFY(Alerts::shared().showing());
-    dismissAlerts();
-    auto *stack = findItem(window->contentItem(), u"stack"_s);
-    auto *control = findItem(window->contentItem(), u"ControlButton"_s);
-    QVERIFY(stack && control);
-    // Each button by its object name, and the name a screen reader says.
-    const QList<std::pair<QString, QString>> buttons{
-        {u"TodayButton"_s, u"Today"_s}, {u"GoodMorningButton"_s, u"Good Morning"_s}, {u"GoodNightButton"_s, u"Good Night"_s},
-        {u"FavoritesButton"_s, u"Favorites"_s}, {u"SpecialDaysButton"_s, u"Special Days"_s}, {u"SearchButton"_s, u"Search"_s},
-        {u"NotesButton"_s, u"Notes"_s}, {u"AboutButton"_s, u"About"_s}, {u"UserDefaultsButton"_s, u"User Defaults"_s},
-        {u"RateShareButton"_s, u"Rate & Share"_s}, {u"ImportExportButton"_s, u"Import & Export"_s},
-        {u"ResetButton"_s, u"Update Files"_s}};
-    // Opened and closed once: a menu never opened has no buttons yet.
-    for (int flip = 0; flip < 2; ++flip)
-        QVERIFY(pressAsScreenReader(control));
-    QTRY_VERIFY(!findItem(window->contentItem(), u"TodayButton"_s)->isVisible());
-    int opened = 0;
-    for (const bool open : {false, true}) {
-        if (open) {
-            QVERIFY(pressAsScreenReader(control));
-            QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
-        }
-        QCOMPARE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name),
-                 open ? u"Close menu"_s : u"Menu"_s);
-        for (const auto &[name, title] : buttons) {
-            auto *button = findItem(window->contentItem(), name);
-            QVERIFY2(button, qPrintable(name));
-            QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name), title);
-            const bool pressable = button->isVisible() && button->isEnabled();
-            if (!open || name == u"ImportExportButton"_s)
-                QVERIFY2(!pressable, qPrintable(name));
-            opened += pressable;
-            const QString stop = fatalStop([&] { pressAsScreenReader(button); });
-            QVERIFY2(stop.isEmpty(), qPrintable(name + u" ended the application: "_s + stop));
-            QTRY_COMPARE(stack->property("depth").toInt(), pressable ? 2 : 1);
-            if (pressable) {
-                Navigator::shared().popToRoot();
-                QTRY_COMPARE(stack->property("depth").toInt(), 1);
-                if (!findItem(window->contentItem(), u"TodayButton"_s)->isVisible()) {
-                    QVERIFY(pressAsScreenReader(control)); // leaving closed the menu
-                    QTRY_VERIFY(findItem(window->contentItem(), u"TodayButton"_s)->height() > 40);
-                }
-            }
-        }
+    void reviewPromptCountsPageOpenings_data()
+    {
+        QTest::addColumn<QStringList>("versions"); // the version at each page opening ("-" for none)
+        QTest::addColumn<QList<qint64>>("counts"); // the counter after each opening
+        QTest::addColumn<QString>("lastVersion");  // "-" when absent at the end
+        QTest::newRow("third opening asks, later ones in the same version do not")
+            << QStringList{u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.0"_s}
+            << QList<qint64>{1, 2, 0, 1, 2, 3} << u"1.0"_s;
+        QTest::newRow("a new version asks again after three more")
+            << QStringList{u"1.0"_s, u"1.0"_s, u"1.0"_s, u"1.1"_s, u"1.1"_s, u"1.1"_s}
+            << QList<qint64>{1, 2, 0, 1, 2, 0} << u"1.1"_s;
+        QTest::newRow("no version: asks every third time and stores none")
+            << QStringList{u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-"_s}
+            << QList<qint64>{1, 2, 0, 1, 2, 0} << u"-"_s;
     }
-    QVERIFY(opened >= 4); // the four list buttons at least
-}
 
-// On the page list a screen reader's press marks the row's favourite and switches the segment.
-void TestCover::screenReaderOnThePageList()
-{
-    TestEnvironment environment;
-    Clock::set([] { return QDateTime(QDate(2027, 6, 2), QTime(8, 0)); });
-    insertPages({u"May 1|AM|5|1|1|F|Dew on the gate"_s});
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
-    QVERIFY(window);
-    QQuickItem *row = waitForItem(window, u"row-0"_s);
-    QVERIFY(row);
-    QQuickItem *favorite = findItem(row, u"FavoriteCheckBox"_s)->parentItem()->parentItem(); // the whole mark
-    QAccessibleInterface *box = QAccessible::queryAccessibleInterface(favorite);
-    QCOMPARE(box->role(), QAccessible::CheckBox);
-    QCOMPARE(box->text(QAccessible::Name), u"Favorite"_s);
-    QVERIFY(pressAsScreenReader(favorite));
-    QTRY_VERIFY(box->state().checked);
-    QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}), QStringList{u"T"_s});
+    void reviewPromptCountsPageOpenings()
+    {
+        QFETCH(QStringList, versions);
+        QFETCH(QList<qint64>, counts);
+        QFETCH(QString, lastVersion);
+        TestEnvironment environment;
+        for (qsizetype i = 0; i < versions.size(); ++i) {
+            ReviewPrompt::run(versions[i] == u"-"_s ? std::nullopt : std::optional(versions[i]));
+            QCOMPARE(UserDefaults::standard().integerForKey(u"reviewWorthyActionCount"_s), counts[i]);
+        }
+        QCOMPARE(UserDefaults::standard().stringForKey(u"lastReviewRequestAppVersion"_s).value_or(u"-"_s), lastVersion);
+    }
 
-    QQuickItem *today = waitForItem(window, u"segment-Today"_s);
-    QCOMPARE(QAccessible::queryAccessibleInterface(today)->role(), QAccessible::PageTab);
-    QVERIFY(pressAsScreenReader(today));
-    QTRY_VERIFY(QAccessible::queryAccessibleInterface(today)->state().selected);
-    QTRY_COMPARE(waitForItem(window, u"table"_s)->property("count").toInt(), 0); // no page for June 2
-}
+    // On the page list a screen reader's press marks the row's favourite and switches the segment.
+    void screenReaderOnThePageList()
+    {
+        TestEnvironment environment;
+        Clock::set([] { return QDateTime(QDate(2027, 6, 2), QTime(8, 0)); });
+        insertPages({u"May 1|AM|5|1|1|F|Dew on the gate"_s});
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+        QVERIFY(window);
+        QQuickItem *row = waitForItem(window, u"row-0"_s);
+        QVERIFY(row);
+        QQuickItem *favorite = findItem(row, u"FavoriteCheckBox"_s)->parentItem()->parentItem(); // the whole mark
+        QAccessibleInterface *box = QAccessible::queryAccessibleInterface(favorite);
+        QCOMPARE(box->role(), QAccessible::CheckBox);
+        QCOMPARE(box->text(QAccessible::Name), u"Favorite"_s);
+        QVERIFY(pressAsScreenReader(favorite));
+        QTRY_VERIFY(box->state().checked);
+        QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}), QStringList{u"T"_s});
 
-void TestCover::segueWithoutScreenStopsNamingIt()
-{
-    TestEnvironment environment;
-    QCOMPARE(fatalStop([] { Navigator::shared().performSegue(u"ImportExportSegue"_s); }),
-             u"Fatal error: no screen for the segue \"ImportExportSegue\""_s);
-}
+        QQuickItem *today = waitForItem(window, u"segment-Today"_s);
+        QCOMPARE(QAccessible::queryAccessibleInterface(today)->role(), QAccessible::PageTab);
+        QVERIFY(pressAsScreenReader(today));
+        QTRY_VERIFY(QAccessible::queryAccessibleInterface(today)->state().selected);
+        QTRY_COMPARE(waitForItem(window, u"table"_s)->property("count").toInt(), 0); // no page for June 2
+    }
+
+    void segueWithoutScreenStopsNamingIt()
+    {
+        TestEnvironment environment;
+        QCOMPARE(fatalStop([] { Navigator::shared().performSegue(u"ImportExportSegue"_s); }),
+                 u"Fatal error: no screen for the segue \"ImportExportSegue\""_s);
+    }
+};
 
 QTEST_MAIN(TestCover)
 #include "tst_cover.moc"

@@ -10,19 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-// The cover kept under the data folder: drawn once a size, read back by later launches, the
-// picture of an earlier size removed, and the vector cover whenever nothing can be kept.
-class TestCoverCache : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void keepsOnePicture_data();
-    void keepsOnePicture();
-    void damagedPictureIsDrawnAgain_data();
-    void damagedPictureIsDrawnAgain();
-};
-
 namespace {
 // One launch's cover screen: the size it asks for, then its start-up.
 QUrl launch(QSize pixelSize)
@@ -34,85 +21,88 @@ QUrl launch(QSize pixelSize)
 }
 }
 
-void TestCoverCache::keepsOnePicture_data()
+// The cover kept under the data folder: drawn once a size, read back by later launches, the
+// picture of an earlier size removed, and the vector cover whenever nothing can be kept.
+class TestCoverCache : public QObject
 {
-    QTest::addColumn<QSize>("first");
-    QTest::addColumn<QSize>("second");
-    QTest::addColumn<bool>("folderBlocked");
-    QTest::addColumn<bool>("kept");
+    Q_OBJECT
 
-    QTest::newRow("the same size again reads the kept picture") << QSize(240, 360) << QSize(240, 360) << false << true;
-    QTest::newRow("a new size replaces the old picture") << QSize(240, 360) << QSize(300, 450) << false << true;
-    QTest::newRow("no size yet: the vector cover") << QSize() << QSize(0, 450) << false << false;
-    QTest::newRow("no folder for the cache: the vector cover") << QSize(240, 360) << QSize(240, 360) << true << false;
-}
+private Q_SLOTS:
+    void keepsOnePicture_data()
+    {
+        QTest::addColumn<QSize>("first");
+        QTest::addColumn<QSize>("second");
+        QTest::addColumn<bool>("folderBlocked");
+        QTest::addColumn<bool>("kept");
 
-void TestCoverCache::keepsOnePicture()
-{
-    QFETCH(QSize, first);
-    QFETCH(QSize, second);
-    QFETCH(bool, folderBlocked);
-    QFETCH(bool, kept);
-    TestEnvironment environment;
-    Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true); // no seeding here
-    const QDir data(environment.dataDirectory());
-    if (folderBlocked) {
-        QFile blocker(data.filePath(u"cache"_s)); // a file where the folder would go
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        QTest::newRow("the same size again reads the kept picture") << QSize(240, 360) << QSize(240, 360) << false << true;
+        QTest::newRow("a new size replaces the old picture") << QSize(240, 360) << QSize(300, 450) << false << true;
+        QTest::newRow("no size yet: the vector cover") << QSize() << QSize(0, 450) << false << false;
+        QTest::newRow("no folder for the cache: the vector cover") << QSize(240, 360) << QSize(240, 360) << true << false;
     }
 
-    const QDir cache(data.filePath(u"cache"_s));
-    const auto file = [&cache](const QUrl &url) { return cache.filePath(url.fileName()); };
-    const QUrl drawn = launch(first);
-    const QDateTime drawnAt = QFileInfo(file(drawn)).lastModified();
-    const QUrl url = launch(second);
-    const QStringList pictures = cache.entryList({u"Cover-*"_s}, QDir::Files);
-    if (!kept) {
-        QCOMPARE(url, CoverViewController().img());
-        QVERIFY(pictures.isEmpty());
-        return;
+    void keepsOnePicture()
+    {
+        QFETCH(QSize, first);
+        QFETCH(QSize, second);
+        QFETCH(bool, folderBlocked);
+        QFETCH(bool, kept);
+        TestEnvironment environment;
+        Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true); // no seeding here
+        const QDir data(environment.dataDirectory());
+        if (folderBlocked)
+            QVERIFY(writeFile(data.filePath(u"cache"_s), {})); // a file where the folder would go
+
+        const QDir cache(data.filePath(u"cache"_s));
+        const auto file = [&cache](const QUrl &url) { return cache.filePath(url.fileName()); };
+        const QUrl drawn = launch(first);
+        const QDateTime drawnAt = QFileInfo(file(drawn)).lastModified();
+        const QUrl url = launch(second);
+        const QStringList pictures = cache.entryList({u"Cover-*"_s}, QDir::Files);
+        if (!kept) {
+            QCOMPARE(url, CoverViewController().img());
+            QVERIFY(pictures.isEmpty());
+            return;
+        }
+        QCOMPARE(pictures, QStringList{url.fileName()});
+        const QImage picture = CoverCache::read(file(url));
+        QCOMPARE(picture.size(), second);
+        // Drawn, not blank: the night sky at the top is darker than the dawn below it.
+        QVERIFY(qGray(picture.pixel(second.width() / 2, 2)) < qGray(picture.pixel(second.width() / 2, second.height() / 2)));
+        if (first == second) {
+            QCOMPARE(url, drawn);
+            QCOMPARE(QFileInfo(file(url)).lastModified(), drawnAt); // read back, not drawn again
+        }
     }
-    QCOMPARE(pictures, QStringList{url.fileName()});
-    const QImage picture = CoverCache::read(file(url));
-    QCOMPARE(picture.size(), second);
-    // Drawn, not blank: the night sky at the top is darker than the dawn below it.
-    QVERIFY(qGray(picture.pixel(second.width() / 2, 2)) < qGray(picture.pixel(second.width() / 2, second.height() / 2)));
-    if (first == second) {
-        QCOMPARE(url, drawn);
-        QCOMPARE(QFileInfo(file(url)).lastModified(), drawnAt); // read back, not drawn again
+
+    void damagedPictureIsDrawnAgain_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const qint32 wrongSize[2] = {240, 361};
+        QTest::newRow("torn") << QByteArray("LWC1\xf0\x00");
+        QTest::newRow("another format") << QByteArray("P6\n240 360\n255\n") + QByteArray(240 * 360 * 3, '\x7f');
+        QTest::newRow("pixels short of the size it names")
+            << QByteArray("LWC1") + QByteArray(reinterpret_cast<const char *>(wrongSize), sizeof wrongSize) + QByteArray(240 * 360 * 4, '\0');
     }
-}
 
-void TestCoverCache::damagedPictureIsDrawnAgain_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    const qint32 wrongSize[2] = {240, 361};
-    QTest::newRow("torn") << QByteArray("LWC1\xf0\x00");
-    QTest::newRow("another format") << QByteArray("P6\n240 360\n255\n") + QByteArray(240 * 360 * 3, '\x7f');
-    QTest::newRow("pixels short of the size it names")
-        << QByteArray("LWC1") + QByteArray(reinterpret_cast<const char *>(wrongSize), sizeof wrongSize) + QByteArray(240 * 360 * 4, '\0');
-}
+    void damagedPictureIsDrawnAgain()
+    {
+        QFETCH(QByteArray, content);
+        TestEnvironment environment;
+        Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
+        const QSize size(240, 360);
+        const QUrl url = launch(size);
+        const QString file = QDir(environment.dataDirectory()).filePath(u"cache/"_s + url.fileName());
+        QVERIFY(writeFile(file, content));
+        QVERIFY(CoverCache::read(file).isNull());
 
-void TestCoverCache::damagedPictureIsDrawnAgain()
-{
-    QFETCH(QByteArray, content);
-    TestEnvironment environment;
-    Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
-    const QSize size(240, 360);
-    const QUrl url = launch(size);
-    const QString file = QDir(environment.dataDirectory()).filePath(u"cache/"_s + url.fileName());
-    QFile damaged(file);
-    QVERIFY(damaged.open(QIODevice::WriteOnly));
-    damaged.write(content);
-    damaged.close();
-    QVERIFY(CoverCache::read(file).isNull());
-
-    CoverCache::ImageProvider provider;
-    QSize served;
-    QCOMPARE(provider.requestImage(url.fileName(), &served, size).size(), size);
-    QCOMPARE(served, size);
-    QCOMPARE(CoverCache::read(file).size(), size); // kept again for the next launch
-}
+        CoverCache::ImageProvider provider;
+        QSize served;
+        QCOMPARE(provider.requestImage(url.fileName(), &served, size).size(), size);
+        QCOMPARE(served, size);
+        QCOMPARE(CoverCache::read(file).size(), size); // kept again for the next launch
+    }
+};
 
 QTEST_MAIN(TestCoverCache)
 #include "tst_covercache.moc"

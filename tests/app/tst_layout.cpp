@@ -16,28 +16,6 @@
 
 using namespace Qt::StringLiterals;
 
-// Every screen, filled with the seeded book, at phone and tablet sizes: no control may sit
-// outside the window beyond scrolling, nor on top of another control.
-class TestLayout : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void cleanupTestCase();
-    void checkerSeesFaults_data();
-    void checkerSeesFaults();
-    void everyScreenFits_data();
-    void everyScreenFits();
-
-private:
-    void showScreen(const QString &screen);
-    std::unique_ptr<TestEnvironment> m_environment;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
-    QQuickWindow *m_window = nullptr;
-};
-
 namespace {
 const QString cover = u"Cover with its menu"_s;
 // Screens in a second state that adds controls: the typing reader's Done button, the note's
@@ -91,125 +69,138 @@ void selectFirstRows()
 }
 }
 
-void TestLayout::initTestCase()
+// Every screen, filled with the seeded book, at phone and tablet sizes: no control may sit
+// outside the window beyond scrolling, nor on top of another control.
+class TestLayout : public QObject
 {
-    m_environment = std::make_unique<TestEnvironment>();
-    QQuickStyle::setStyle(u"Material"_s); // as the application draws itself
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_window = loadMainWindow(*m_engine); // a first launch: the book is seeded
-    QVERIFY(m_window);
-    QTRY_VERIFY(Alerts::shared().showing());
-    dismissAlerts();
-    // The special days and the articles are seeded on the first visit of their lists.
-    for (const QString &list : {u"SpecialDaysSegue"_s, u"AboutSegue"_s}) {
-        Navigator::shared().performSegue(list);
-        QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_environment = std::make_unique<TestEnvironment>();
+        QQuickStyle::setStyle(u"Material"_s); // as the application draws itself
+        m_engine = std::make_unique<QQmlApplicationEngine>();
+        m_window = loadMainWindow(*m_engine); // a first launch: the book is seeded
+        QVERIFY(m_window);
+        QTRY_VERIFY(Alerts::shared().showing());
         dismissAlerts();
-        Navigator::shared().popToRoot();
-        QTRY_COMPARE(topPage(m_window), u"CoverView"_s);
+        // The special days and the articles are seeded on the first visit of their lists.
+        for (const QString &list : {u"SpecialDaysSegue"_s, u"AboutSegue"_s}) {
+            Navigator::shared().performSegue(list);
+            QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
+            dismissAlerts();
+            Navigator::shared().popToRoot();
+            QTRY_COMPARE(topPage(m_window), u"CoverView"_s);
+        }
+        insertNotes();
     }
-    insertNotes();
-}
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
 
-void TestLayout::cleanupTestCase()
-{
-    m_engine.reset();
-    m_environment.reset();
-}
+    void cleanupTestCase()
+    {
+        m_engine.reset();
+        m_environment.reset();
+    }
 
-// The checker itself, on small windows of stock controls: what it must flag. What it must let be
-// shows as a failure of the screens below.
-void TestLayout::checkerSeesFaults_data()
-{
-    QTest::addColumn<QString>("body");
-    QTest::addColumn<QStringList>("expected"); // the start of each fault, in order
+    // The checker itself, on small windows of stock controls: what it must flag. What it must let be
+    // shows as a failure of the screens below.
+    void checkerSeesFaults_data()
+    {
+        QTest::addColumn<QString>("body");
+        QTest::addColumn<QStringList>("expected"); // the start of each fault, in order
 
-    const QString button = u"Button { objectName: \"%1\"; x: %2; y: %3; width: 90; height: 40 }"_s;
-    QTest::newRow("overlapping buttons") << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(60).arg(0)
-                                         << QStringList{u"overlap: a [0,0 90x40] and b"_s};
-    QTest::newRow("a field under a button")
-        << u"TextField { objectName: \"f\"; width: 150 }"_s + button.arg(u"b"_s).arg(100).arg(0)
-        << QStringList{u"overlap: f"_s};
-    QTest::newRow("below the window") << button.arg(u"low"_s).arg(0).arg(250) << QStringList{u"out of reach: low"_s};
-    QTest::newRow("beyond what the view scrolls")
-        << u"Flickable { anchors.fill: parent; contentHeight: 200; clip: true; %1 }"_s.arg(button.arg(u"low"_s).arg(0).arg(300))
-        << QStringList{u"out of reach: low"_s};
-}
+        const QString button = u"Button { objectName: \"%1\"; x: %2; y: %3; width: 90; height: 40 }"_s;
+        QTest::newRow("overlapping buttons") << button.arg(u"a"_s).arg(0).arg(0) + button.arg(u"b"_s).arg(60).arg(0)
+                                             << QStringList{u"overlap: a [0,0 90x40] and b"_s};
+        QTest::newRow("a field under a button")
+            << u"TextField { objectName: \"f\"; width: 150 }"_s + button.arg(u"b"_s).arg(100).arg(0)
+            << QStringList{u"overlap: f"_s};
+        QTest::newRow("below the window") << button.arg(u"low"_s).arg(0).arg(250) << QStringList{u"out of reach: low"_s};
+        QTest::newRow("beyond what the view scrolls")
+            << u"Flickable { anchors.fill: parent; contentHeight: 200; clip: true; %1 }"_s.arg(button.arg(u"low"_s).arg(0).arg(300))
+            << QStringList{u"out of reach: low"_s};
+    }
 
-void TestLayout::checkerSeesFaults()
-{
-    QFETCH(QString, body);
-    QFETCH(QStringList, expected);
-    QQmlComponent component(m_engine.get());
-    component.setData(u"import QtQuick\nimport QtQuick.Controls\nWindow { width: 200; height: 200; visible: true\n%1\n}"_s
-                          .arg(body).toUtf8(), QUrl());
-    std::unique_ptr<QObject> object(component.create());
-    auto *window = qobject_cast<QQuickWindow *>(object.get());
-    QVERIFY2(window, qPrintable(component.errorString()));
-    QVERIFY(QTest::qWaitForWindowExposed(window));
-    const QStringList faults = layoutFaults(window);
-    QCOMPARE(faults.size(), expected.size());
-    for (qsizetype i = 0; i < faults.size(); ++i)
-        QVERIFY2(faults[i].startsWith(expected[i]), qPrintable(faults[i]));
-}
+    void checkerSeesFaults()
+    {
+        QFETCH(QString, body);
+        QFETCH(QStringList, expected);
+        QQmlComponent component(m_engine.get());
+        component.setData(u"import QtQuick\nimport QtQuick.Controls\nWindow { width: 200; height: 200; visible: true\n%1\n}"_s
+                              .arg(body).toUtf8(), QUrl());
+        std::unique_ptr<QObject> object(component.create());
+        auto *window = qobject_cast<QQuickWindow *>(object.get());
+        QVERIFY2(window, qPrintable(component.errorString()));
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        const QStringList faults = layoutFaults(window);
+        QCOMPARE(faults.size(), expected.size());
+        for (qsizetype i = 0; i < faults.size(); ++i)
+            QVERIFY2(faults[i].startsWith(expected[i]), qPrintable(faults[i]));
+    }
 
-void TestLayout::everyScreenFits_data()
-{
-    QTest::addColumn<QString>("screen");
-    QTest::addColumn<QSize>("size");
-    const QStringList screens = QStringList{cover} + Navigator::shared().segues() + states;
-    for (const QSize size : {QSize(360, 640), QSize(412, 915), QSize(768, 1024), QSize(1024, 768)}) {
-        for (const QString &screen : screens) {
-            const QString row = u"%1 %2x%3"_s.arg(screen).arg(size.width()).arg(size.height());
-            QTest::newRow(qPrintable(row)) << screen << size;
+    void everyScreenFits_data()
+    {
+        QTest::addColumn<QString>("screen");
+        QTest::addColumn<QSize>("size");
+        const QStringList screens = QStringList{cover} + Navigator::shared().segues() + states;
+        for (const QSize size : {QSize(360, 640), QSize(412, 915), QSize(768, 1024), QSize(1024, 768)}) {
+            for (const QString &screen : screens) {
+                const QString row = u"%1 %2x%3"_s.arg(screen).arg(size.width()).arg(size.height());
+                QTest::newRow(qPrintable(row)) << screen << size;
+            }
         }
     }
-}
 
-void TestLayout::showScreen(const QString &screen)
-{
-    if (screen == cover) {
-        click(m_window, waitForItem(m_window, u"ControlButton"_s));
-        QVERIFY(waitForItem(m_window, u"TodayButton"_s));
-        return;
+    void everyScreenFits()
+    {
+        QFETCH(QString, screen);
+        QFETCH(QSize, size);
+        Navigator::shared().popToRoot();
+        QTRY_COMPARE(topPage(m_window), u"CoverView"_s);
+        m_window->resize(size);
+        QTRY_COMPARE(m_window->contentItem()->size(), QSizeF(size));
+        showScreen(screen);
+        if (QTest::currentTestFailed())
+            return;
+        QTest::qWait(800); // opening pickers and late layouts settle
+        dismissAlerts();
+        // A list still placing its rows overlaps them for a frame or two; a real fault stays.
+        QStringList faults;
+        const bool fits = QTest::qWaitFor([&] { return (faults = layoutFaults(m_window)).isEmpty(); }, 3000);
+        QVERIFY2(fits, qPrintable(u"%1 at %2x%3:\n  "_s.arg(screen).arg(size.width()).arg(size.height())
+                                              + faults.join(u"\n  "_s)));
     }
-    selectFirstRows();
-    Navigator::shared().performSegue(screen.section(u' ', 0, 0));
-    QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
-    dismissAlerts();
-    if (screen.endsWith(typing)) {
-        QQuickItem *surface = waitForItem(m_window, u"scroller"_s);
-        QVERIFY(surface);
-        surface->property("textView").value<QQuickItem *>()->forceActiveFocus();
-        QVERIFY(waitForItem(m_window, u"DoneButton"_s));
-    } else if (screen.endsWith(picking)) {
-        QQuickItem *field = waitForItem(m_window, u"DateTextField"_s);
-        QVERIFY(field);
-        field->forceActiveFocus();
-        QTest::keyClick(m_window, Qt::Key_Space);
-        QVERIFY(waitForItem(m_window, u"monthWheel"_s));
-    }
-}
 
-void TestLayout::everyScreenFits()
-{
-    QFETCH(QString, screen);
-    QFETCH(QSize, size);
-    Navigator::shared().popToRoot();
-    QTRY_COMPARE(topPage(m_window), u"CoverView"_s);
-    m_window->resize(size);
-    QTRY_COMPARE(m_window->contentItem()->size(), QSizeF(size));
-    showScreen(screen);
-    if (QTest::currentTestFailed())
-        return;
-    QTest::qWait(800); // opening pickers and late layouts settle
-    dismissAlerts();
-    // A list still placing its rows overlaps them for a frame or two; a real fault stays.
-    QStringList faults;
-    const bool fits = QTest::qWaitFor([&] { return (faults = layoutFaults(m_window)).isEmpty(); }, 3000);
-    QVERIFY2(fits, qPrintable(u"%1 at %2x%3:\n  "_s.arg(screen).arg(size.width()).arg(size.height())
-                                          + faults.join(u"\n  "_s)));
-}
+private:
+    void showScreen(const QString &screen)
+    {
+        if (screen == cover) {
+            click(m_window, waitForItem(m_window, u"ControlButton"_s));
+            QVERIFY(waitForItem(m_window, u"TodayButton"_s));
+            return;
+        }
+        selectFirstRows();
+        Navigator::shared().performSegue(screen.section(u' ', 0, 0));
+        QTRY_VERIFY(!topPage(m_window).isEmpty() && topPage(m_window) != u"CoverView"_s);
+        dismissAlerts();
+        if (screen.endsWith(typing)) {
+            QQuickItem *surface = waitForItem(m_window, u"scroller"_s);
+            QVERIFY(surface);
+            surface->property("textView").value<QQuickItem *>()->forceActiveFocus();
+            QVERIFY(waitForItem(m_window, u"DoneButton"_s));
+        } else if (screen.endsWith(picking)) {
+            QQuickItem *field = waitForItem(m_window, u"DateTextField"_s);
+            QVERIFY(field);
+            field->forceActiveFocus();
+            QTest::keyClick(m_window, Qt::Key_Space);
+            QVERIFY(waitForItem(m_window, u"monthWheel"_s));
+        }
+    }
+    std::unique_ptr<TestEnvironment> m_environment;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+};
 
 QTEST_MAIN(TestLayout)
 #include "tst_layout.moc"

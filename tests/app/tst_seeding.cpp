@@ -42,191 +42,181 @@ class TestSeeding : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void firstLaunchLoadsPages_data();
-    void firstLaunchLoadsPages();
-    void malformedLineIsFatal_data();
-    void malformedLineIsFatal();
-    void unreadableFileIsLogged_data();
-    void unreadableFileIsLogged();
-    void secondLaunchLeavesEverythingAlone();
-    void storedPagesCountAsDuplicates_data();
-    void storedPagesCountAsDuplicates();
+    void firstLaunchLoadsPages_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QStringList>("pages");
+
+        const QStringList one{u"d1|AM|12|25|359|F|text"_s};
+        QTest::newRow("seven fields") << u"d1^AM^12^25^359^F^text"_s << one;
+        QTest::newRow("marker and CR LF read the same") << u"[POEMPRAYER]\r\nd1^AM^12^25^359^F^text\r\n\r\n"_s << one;
+        QTest::newRow("marker anywhere, blank lines") << u"\n\nd1^AM^12^25^359^F^text\n[POEMPRAYER]\n"_s << one;
+        QTest::newRow("marker with spaces is a page") << u" [POEMPRAYER]"_s << QStringList{u" [POEMPRAYER]|-|-|-|-|-|-"_s};
+        // Windows-1250 can hold line feed, vertical tab, form feed and carriage return; its byte 0x85
+        // is an ellipsis, not a next-line character.
+        QTest::newRow("every newline kind the encoding can hold")
+            << u"a^AM^1^1^1^F^x\x0B" "b^AM^1^2^2^F^x\x0C" "c^AM^1^3^3^F^x\r\r\n" "d^AM^1^4^4^F^x\ru\x85"_s
+            << QStringList{u"a|AM|1|1|1|F|x"_s, u"b|AM|1|2|2|F|x"_s, u"c|AM|1|3|3|F|x"_s, u"d|AM|1|4|4|F|xu…"_s};
+        QTest::newRow("first line of a day wins")
+            << u"first^AM^1^1^1^F^one\nsecond^AM^1^1^2^T^two\nnight^PM^1^1^3^F^three"_s
+            << QStringList{u"first|AM|1|1|1|F|one"_s, u"night|PM|1|1|3|F|three"_s};
+        QTest::newRow("duplicate check sees the fields before quotes go")
+            << u"a^AM^1^1^1^F^x\nb^AM^\"1\"^1^2^F^y"_s
+            << QStringList{u"a|AM|1|1|1|F|x"_s, u"b|AM|1|1|2|F|y"_s};
+        QTest::newRow("duplicate check compares numbers") << u"a^AM^01^1^1^F^x\nb^AM^1^+1^2^F^y"_s
+                                                          << QStringList{u"a|AM|1|1|1|F|x"_s};
+        QTest::newRow("quotes, commas and apostrophes vanish")
+            << u"d1^AM^1^1^1^F^Good \"day\", it's fine"_s << QStringList{u"d1|AM|1|1|1|F|Good day its fine"_s};
+        QTest::newRow("@#@ becomes a line feed") << u"d1^PM^1^1^2^F^one@#@two@#@@#@three"_s
+                                                  << QStringList{u"d1|PM|1|1|2|F|one\ntwo\n\nthree"_s};
+        QTest::newRow("@#@ only in the text") << u"a@#@b^AM^1^1^1^F^x"_s << QStringList{u"a@#@b|AM|1|1|1|F|x"_s};
+        QTest::newRow("short lines leave columns unset")
+            << u"only a date\nd2^PM\nd3^AM^2^3"_s
+            << QStringList{u"only a date|-|-|-|-|-|-"_s, u"d2|PM|-|-|-|-|-"_s, u"d3|AM|2|3|-|-|-"_s};
+        QTest::newRow("empty text piece is stored empty") << u"d^AM^1^1^1^F^"_s << QStringList{u"d|AM|1|1|1|F|"_s};
+        QTest::newRow("signed and bounded numbers") << u"d^AM^-3^+4^32767^F^x"_s << QStringList{u"d|AM|-3|4|32767|F|x"_s};
+        QTest::newRow("Windows-1250 letters and marks") << u"d^AM^1^1^1^F^“Tomáš’s” song"_s
+                                                         << QStringList{u"d|AM|1|1|1|F|“Tomáš’s” song"_s};
+    }
+
+    void firstLaunchLoadsPages()
+    {
+        QFETCH(QString, file);
+        QFETCH(QStringList, pages);
+        TestEnvironment environment;
+        environment.addBundleFile(u"Book.txt"_s, windows1250(file));
+        AppDelegate::shared().viewContext().insertNewObject<PoemPrayer>()->setDt(u"left from before"_s);
+        QVERIFY(!AppDelegate::shared().viewContext().save());
+        QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
+
+        CoverViewController cover;
+        cover.viewDidLoad();
+
+        QCOMPARE(storedPages(), pages); // what was there before is gone
+        QCOMPARE(environment.logLines, QStringList{u"First Launch"_s});
+        QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));
+        QCOMPARE(alerts.size(), 1);
+        QCOMPARE(alerts.first().at(0).toString(), u"Initial Setup Recomendations?"_s);
+        QCOMPARE(alerts.first().at(1).toString(),
+                 u"It's recommended that you go to the User Defaults Menu and turn on wallpapers and select custom fonts to enhance your experience."_s);
+        QCOMPARE(Alerts::shared().buttons(), QStringList{u"Ok"_s});
+        Alerts::shared().dismiss(0);
+    }
+
+    void malformedLineIsFatal_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QStringList>("pagesBefore");
+
+        QTest::newRow("three circumflexes") << u"^^^"_s << u"month"_s << QStringList();
+        QTest::newRow("eight fields") << u"ok^AM^1^1^1^F^x\nd^AM^1^2^2^F^x^extra"_s << u"Index out of range"_s
+                                      << QStringList{u"ok|AM|1|1|1|F|x"_s};
+        QTest::newRow("month not a number") << u"d^AM^x^1^1^F^t"_s << u"month"_s << QStringList();
+        QTest::newRow("day with spaces") << u"d^AM^1^ 2^1^F^t"_s << u"day"_s << QStringList();
+        QTest::newRow("page number out of range") << u"d^AM^1^1^32768^F^t"_s << u"pagenum"_s << QStringList();
+        QTest::newRow("decimal point") << u"d^AM^1^1^1.0^F^t"_s << u"pagenum"_s << QStringList();
+    }
+
+    void malformedLineIsFatal()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, message);
+        QFETCH(QStringList, pagesBefore);
+        TestEnvironment environment;
+        environment.addBundleFile(u"Book.txt"_s, file.toLatin1());
+
+        CoverViewController cover;
+        const QString stop = fatalStop([&] { cover.viewDidLoad(); });
+        QVERIFY2(stop.contains(message), qPrintable(stop));
+        AppDelegate::shared().reset(); // drop the half-made page
+        QCOMPARE(storedPages(), pagesBefore);
+        QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));
+    }
+
+    void unreadableFileIsLogged_data()
+    {
+        QTest::addColumn<QByteArray>("bytes"); // empty: no page file at all
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("missing") << QByteArray() << u"because there is no such file."_s;
+        QTest::newRow("byte undefined in Windows-1250") << QByteArray("d^AM^1^1^1^F^\x81") << u"using text encoding"_s;
+    }
+
+    void unreadableFileIsLogged()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        TestEnvironment environment;
+        environment.addBundleFile(bytes.isEmpty() ? u"Other.png"_s : u"Book.txt"_s, bytes);
+
+        CoverViewController cover;
+        cover.viewDidLoad();
+
+        QCOMPARE(environment.logLines.size(), 2);
+        QCOMPARE(environment.logLines[0], u"First Launch"_s);
+        QVERIFY2(environment.logLines[1].startsWith(u"Error reading file: The file “Book.txt” couldn’t be opened"_s),
+                 qPrintable(environment.logLines[1]));
+        QVERIFY(environment.logLines[1].contains(reason));
+        QVERIFY(storedPages().isEmpty());
+        QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));
+        QCOMPARE(UserDefaults::standard().stringForKey(u"Page35"_s), u"true"_s);
+        Alerts::shared().dismiss(0);
+    }
+
+    void secondLaunchLeavesEverythingAlone()
+    {
+        TestEnvironment environment;
+        environment.addBundleFile(u"Book.txt"_s, "d1^AM^1^1^1^F^x");
+        CoverViewController first;
+        first.viewDidLoad();
+        Alerts::shared().dismiss(0);
+        UserDefaults::standard().set(u"AM-40"_s, u"false"_s);
+        UserDefaults::standard().removeObject(u"Page3"_s);
+        environment.addBundleFile(u"Book.txt"_s, "d2^AM^1^2^2^F^y");
+        environment.logLines.clear();
+        QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
+
+        CoverViewController second;
+        second.viewDidLoad();
+
+        QCOMPARE(environment.logLines, QStringList{u"Not First Launch"_s});
+        QCOMPARE(alerts.size(), 0);
+        QCOMPARE(storedPages(), QStringList{u"d1|AM|1|1|1|F|x"_s});
+        QCOMPARE(UserDefaults::standard().stringForKey(u"AM-40"_s), u"false"_s);
+        QCOMPARE(UserDefaults::standard().stringForKey(u"Page3"_s), u"true"_s);
+    }
+
+    // Loading over pages the store already holds (the clearing skipped or failed): the duplicate
+    // check counts those too, and everything loaded survives a restart.
+    void storedPagesCountAsDuplicates_data()
+    {
+        QTest::addColumn<QStringList>("stored");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QStringList>("pages");
+
+        QTest::newRow("a stored day wins over the file") << QStringList{u"old|AM|1|1|1|F|x"_s}
+            << u"new^AM^1^1^1^F^y\nnight^PM^1^1^2^F^z"_s << QStringList{u"old|AM|1|1|1|F|x"_s, u"night|PM|1|1|2|F|z"_s};
+        QTest::newRow("a stored page without a month matches nothing") << QStringList{u"old|AM|-|1|1|F|x"_s}
+            << u"new^AM^0^1^1^F^y"_s << QStringList{u"old|AM|-|1|1|F|x"_s, u"new|AM|0|1|1|F|y"_s};
+        QTest::newRow("time of day compared exactly") << QStringList{u"old|am|1|1|1|F|x"_s}
+            << u"new^AM^1^1^1^F^y\nagain^AM^1^1^1^F^y"_s << QStringList{u"old|am|1|1|1|F|x"_s, u"new|AM|1|1|1|F|y"_s};
+    }
+
+    void storedPagesCountAsDuplicates()
+    {
+        QFETCH(QStringList, stored);
+        QFETCH(QString, file);
+        QFETCH(QStringList, pages);
+        TestEnvironment environment;
+        environment.addBundleFile(u"Book.txt"_s, file.toLatin1());
+        insertPages(stored);
+
+        PageSeeding().loadPoemPrayers(PageFile::columns);
+        AppDelegate::shared().reset();
+        QCOMPARE(storedPages(), pages);
+        QVERIFY(environment.logLines.isEmpty());
+    }
 };
-
-void TestSeeding::firstLaunchLoadsPages_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QStringList>("pages");
-
-    const QStringList one{u"d1|AM|12|25|359|F|text"_s};
-    QTest::newRow("seven fields") << u"d1^AM^12^25^359^F^text"_s << one;
-    QTest::newRow("marker and CR LF read the same") << u"[POEMPRAYER]\r\nd1^AM^12^25^359^F^text\r\n\r\n"_s << one;
-    QTest::newRow("marker anywhere, blank lines") << u"\n\nd1^AM^12^25^359^F^text\n[POEMPRAYER]\n"_s << one;
-    QTest::newRow("marker with spaces is a page") << u" [POEMPRAYER]"_s << QStringList{u" [POEMPRAYER]|-|-|-|-|-|-"_s};
-    // Windows-1250 can hold line feed, vertical tab, form feed and carriage return; its byte 0x85
-    // is an ellipsis, not a next-line character.
-    QTest::newRow("every newline kind the encoding can hold")
-        << u"a^AM^1^1^1^F^x\x0B" "b^AM^1^2^2^F^x\x0C" "c^AM^1^3^3^F^x\r\r\n" "d^AM^1^4^4^F^x\ru\x85"_s
-        << QStringList{u"a|AM|1|1|1|F|x"_s, u"b|AM|1|2|2|F|x"_s, u"c|AM|1|3|3|F|x"_s, u"d|AM|1|4|4|F|xu…"_s};
-    QTest::newRow("first line of a day wins")
-        << u"first^AM^1^1^1^F^one\nsecond^AM^1^1^2^T^two\nnight^PM^1^1^3^F^three"_s
-        << QStringList{u"first|AM|1|1|1|F|one"_s, u"night|PM|1|1|3|F|three"_s};
-    QTest::newRow("duplicate check sees the fields before quotes go")
-        << u"a^AM^1^1^1^F^x\nb^AM^\"1\"^1^2^F^y"_s
-        << QStringList{u"a|AM|1|1|1|F|x"_s, u"b|AM|1|1|2|F|y"_s};
-    QTest::newRow("duplicate check compares numbers") << u"a^AM^01^1^1^F^x\nb^AM^1^+1^2^F^y"_s
-                                                      << QStringList{u"a|AM|1|1|1|F|x"_s};
-    QTest::newRow("quotes, commas and apostrophes vanish")
-        << u"d1^AM^1^1^1^F^Good \"day\", it's fine"_s << QStringList{u"d1|AM|1|1|1|F|Good day its fine"_s};
-    QTest::newRow("@#@ becomes a line feed") << u"d1^PM^1^1^2^F^one@#@two@#@@#@three"_s
-                                              << QStringList{u"d1|PM|1|1|2|F|one\ntwo\n\nthree"_s};
-    QTest::newRow("@#@ only in the text") << u"a@#@b^AM^1^1^1^F^x"_s << QStringList{u"a@#@b|AM|1|1|1|F|x"_s};
-    QTest::newRow("short lines leave columns unset")
-        << u"only a date\nd2^PM\nd3^AM^2^3"_s
-        << QStringList{u"only a date|-|-|-|-|-|-"_s, u"d2|PM|-|-|-|-|-"_s, u"d3|AM|2|3|-|-|-"_s};
-    QTest::newRow("empty text piece is stored empty") << u"d^AM^1^1^1^F^"_s << QStringList{u"d|AM|1|1|1|F|"_s};
-    QTest::newRow("signed and bounded numbers") << u"d^AM^-3^+4^32767^F^x"_s << QStringList{u"d|AM|-3|4|32767|F|x"_s};
-    QTest::newRow("Windows-1250 letters and marks") << u"d^AM^1^1^1^F^“Tomáš’s” song"_s
-                                                     << QStringList{u"d|AM|1|1|1|F|“Tomáš’s” song"_s};
-}
-
-void TestSeeding::firstLaunchLoadsPages()
-{
-    QFETCH(QString, file);
-    QFETCH(QStringList, pages);
-    TestEnvironment environment;
-    environment.addBundleFile(u"Book.txt"_s, windows1250(file));
-    AppDelegate::shared().viewContext().insertNewObject<PoemPrayer>()->setDt(u"left from before"_s);
-    QVERIFY(!AppDelegate::shared().viewContext().save());
-    QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
-
-    CoverViewController cover;
-    cover.viewDidLoad();
-
-    QCOMPARE(storedPages(), pages); // what was there before is gone
-    QCOMPARE(environment.logLines, QStringList{u"First Launch"_s});
-    QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));
-    QCOMPARE(alerts.size(), 1);
-    QCOMPARE(alerts.first().at(0).toString(), u"Initial Setup Recomendations?"_s);
-    QCOMPARE(alerts.first().at(1).toString(),
-             u"It's recommended that you go to the User Defaults Menu and turn on wallpapers and select custom fonts to enhance your experience."_s);
-    QCOMPARE(Alerts::shared().buttons(), QStringList{u"Ok"_s});
-    Alerts::shared().dismiss(0);
-}
-
-void TestSeeding::malformedLineIsFatal_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QStringList>("pagesBefore");
-
-    QTest::newRow("three circumflexes") << u"^^^"_s << u"month"_s << QStringList();
-    QTest::newRow("eight fields") << u"ok^AM^1^1^1^F^x\nd^AM^1^2^2^F^x^extra"_s << u"Index out of range"_s
-                                  << QStringList{u"ok|AM|1|1|1|F|x"_s};
-    QTest::newRow("month not a number") << u"d^AM^x^1^1^F^t"_s << u"month"_s << QStringList();
-    QTest::newRow("day with spaces") << u"d^AM^1^ 2^1^F^t"_s << u"day"_s << QStringList();
-    QTest::newRow("page number out of range") << u"d^AM^1^1^32768^F^t"_s << u"pagenum"_s << QStringList();
-    QTest::newRow("decimal point") << u"d^AM^1^1^1.0^F^t"_s << u"pagenum"_s << QStringList();
-}
-
-void TestSeeding::malformedLineIsFatal()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, message);
-    QFETCH(QStringList, pagesBefore);
-    TestEnvironment environment;
-    environment.addBundleFile(u"Book.txt"_s, file.toLatin1());
-
-    CoverViewController cover;
-    const QString stop = fatalStop([&] { cover.viewDidLoad(); });
-    QVERIFY2(stop.contains(message), qPrintable(stop));
-    AppDelegate::shared().reset(); // drop the half-made page
-    QCOMPARE(storedPages(), pagesBefore);
-    QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));
-}
-
-void TestSeeding::unreadableFileIsLogged_data()
-{
-    QTest::addColumn<QByteArray>("bytes"); // empty: no page file at all
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("missing") << QByteArray() << u"because there is no such file."_s;
-    QTest::newRow("byte undefined in Windows-1250") << QByteArray("d^AM^1^1^1^F^\x81") << u"using text encoding"_s;
-}
-
-void TestSeeding::unreadableFileIsLogged()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, reason);
-    TestEnvironment environment;
-    environment.addBundleFile(bytes.isEmpty() ? u"Other.png"_s : u"Book.txt"_s, bytes);
-
-    CoverViewController cover;
-    cover.viewDidLoad();
-
-    QCOMPARE(environment.logLines.size(), 2);
-    QCOMPARE(environment.logLines[0], u"First Launch"_s);
-    QVERIFY2(environment.logLines[1].startsWith(u"Error reading file: The file “Book.txt” couldn’t be opened"_s),
-             qPrintable(environment.logLines[1]));
-    QVERIFY(environment.logLines[1].contains(reason));
-    QVERIFY(storedPages().isEmpty());
-    QVERIFY(UserDefaults::standard().boolForKey(u"hasBeenLaunchedBeforeFlag"_s));
-    QCOMPARE(UserDefaults::standard().stringForKey(u"Page35"_s), u"true"_s);
-    Alerts::shared().dismiss(0);
-}
-
-void TestSeeding::secondLaunchLeavesEverythingAlone()
-{
-    TestEnvironment environment;
-    environment.addBundleFile(u"Book.txt"_s, "d1^AM^1^1^1^F^x");
-    CoverViewController first;
-    first.viewDidLoad();
-    Alerts::shared().dismiss(0);
-    UserDefaults::standard().set(u"AM-40"_s, u"false"_s);
-    UserDefaults::standard().removeObject(u"Page3"_s);
-    environment.addBundleFile(u"Book.txt"_s, "d2^AM^1^2^2^F^y");
-    environment.logLines.clear();
-    QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
-
-    CoverViewController second;
-    second.viewDidLoad();
-
-    QCOMPARE(environment.logLines, QStringList{u"Not First Launch"_s});
-    QCOMPARE(alerts.size(), 0);
-    QCOMPARE(storedPages(), QStringList{u"d1|AM|1|1|1|F|x"_s});
-    QCOMPARE(UserDefaults::standard().stringForKey(u"AM-40"_s), u"false"_s);
-    QCOMPARE(UserDefaults::standard().stringForKey(u"Page3"_s), u"true"_s);
-}
-
-// Loading over pages the store already holds (the clearing skipped or failed): the duplicate
-// check counts those too, and everything loaded survives a restart.
-void TestSeeding::storedPagesCountAsDuplicates_data()
-{
-    QTest::addColumn<QStringList>("stored");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QStringList>("pages");
-
-    QTest::newRow("a stored day wins over the file") << QStringList{u"old|AM|1|1|1|F|x"_s}
-        << u"new^AM^1^1^1^F^y\nnight^PM^1^1^2^F^z"_s << QStringList{u"old|AM|1|1|1|F|x"_s, u"night|PM|1|1|2|F|z"_s};
-    QTest::newRow("a stored page without a month matches nothing") << QStringList{u"old|AM|-|1|1|F|x"_s}
-        << u"new^AM^0^1^1^F^y"_s << QStringList{u"old|AM|-|1|1|F|x"_s, u"new|AM|0|1|1|F|y"_s};
-    QTest::newRow("time of day compared exactly") << QStringList{u"old|am|1|1|1|F|x"_s}
-        << u"new^AM^1^1^1^F^y\nagain^AM^1^1^1^F^y"_s << QStringList{u"old|am|1|1|1|F|x"_s, u"new|AM|1|1|1|F|y"_s};
-}
-
-void TestSeeding::storedPagesCountAsDuplicates()
-{
-    QFETCH(QStringList, stored);
-    QFETCH(QString, file);
-    QFETCH(QStringList, pages);
-    TestEnvironment environment;
-    environment.addBundleFile(u"Book.txt"_s, file.toLatin1());
-    insertPages(stored);
-
-    PageSeeding().loadPoemPrayers(PageFile::columns);
-    AppDelegate::shared().reset();
-    QCOMPARE(storedPages(), pages);
-    QVERIFY(environment.logLines.isEmpty());
-}
 
 QTEST_GUILESS_MAIN(TestSeeding)
 #include "tst_seeding.moc"

@@ -73,8 +73,7 @@ QString goldenPath(const QString &name)
 
 QByteArray golden(const QString &name)
 {
-    QFile file(goldenPath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing golden file");
+    return readFile(goldenPath(name));
 }
 
 void setPage(int month, int day, const QString &ampm, const std::optional<QString> &favorite,
@@ -105,21 +104,6 @@ void writeSomeWriting()
 }
 
 // The menu's restore, as the picker hands it a file; the alert it raised.
-// Once the file dialog is on screen, the user chooses `file` in it and presses its button.
-bool chooseInFileDialog(QQuickWindow *window, const QString &file)
-{
-    QObject *dialog = nullptr;
-    const bool shown = QTest::qWaitFor([&] {
-        for (QObject *object : window->findChildren<QObject *>()) {
-            if (object->inherits("QQuickFileDialogImpl") && object->property("visible").toBool())
-                dialog = object;
-        }
-        return dialog != nullptr;
-    });
-    return shown && dialog->setProperty("currentFolder", QUrl::fromLocalFile(QFileInfo(file).path()))
-        && dialog->setProperty("selectedFile", QUrl::fromLocalFile(file)) && QMetaObject::invokeMethod(dialog, "accept");
-}
-
 QString pick(ExportLarkwellFilesViewController &menu, const QString &path)
 {
     menu.documentPicker(QUrl::fromLocalFile(path));
@@ -136,187 +120,181 @@ class TestWritingBackup : public QObject
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
     void cleanup() { dismissAlerts(); }
-    void backupMatchesGoldenFile();
-    void refusedFilesWriteNothing_data();
-    void refusedFilesWriteNothing();
-    void restoreMerges_data();
-    void restoreMerges();
-    void backUpThenRestoreThroughTheMenu();
-};
 
-// Restoring it is the window test's round trip.
-void TestWritingBackup::backupMatchesGoldenFile()
-{
-    TestEnvironment environment;
-    shipSmallBook(environment);
-    writeSomeWriting();
-    QCOMPARE(QString::fromUtf8(WritingBackup::toJson(WritingBackup::collect(AppDelegate::shared().viewContext(),
-                                                                            WritingBackup::shippedPageTexts()))),
-             QString::fromUtf8(golden(u"writing.json"_s)));
-}
-
-void TestWritingBackup::refusedFilesWriteNothing_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("message");
-
-    const QString damaged = u"This backup is damaged: %1. Nothing was restored."_s;
-    const QByteArray head = R"({"format": "LarkwellsWriting", "version": 1, "notes": [], "favorites": [], )";
-    QTest::newRow("plain text") << QByteArray("[ABOUT]\nWelcome^Hello\n")
-                                << u"This file is not a backup of your writing. Nothing was restored."_s;
-    QTest::newRow("newer version") << QByteArray(R"({"format": "LarkwellsWriting", "version": 2})")
-                                   << u"This backup was made by a newer version of The Larkwells Book. Nothing was restored."_s;
-    QTest::newRow("cut short") << golden(u"merge.json"_s).left(400)
-                               << damaged.arg(u"invalid termination by number at byte 400"_s);
-    QTest::newRow("articles missing") << head + R"("pages": []})" << damaged.arg(u"the articles are missing"_s);
-    QTest::newRow("month 13 on the last page")
-        << head + R"("pages": [{"month": 1, "day": 1, "ampm": "AM", "poemprayer": "x"},
-                               {"month": 13, "day": 1, "ampm": "AM", "poemprayer": "x"}], "articles": []})"
-        << damaged.arg(u"page 2 has a month that is not a number from 1 to 12"_s);
-    QTest::newRow("note with a wrong date")
-        << QByteArray(R"({"format": "LarkwellsWriting", "version": 1, "favorites": [], "pages": [], "articles": [],
-                          "notes": [{"subject": "a", "dt": "yesterday"}]})")
-        << damaged.arg(u"note 1 has a dt that is not a date"_s);
-}
-
-void TestWritingBackup::refusedFilesWriteNothing()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QString, message);
-    TestEnvironment environment;
-    shipSmallBook(environment);
-    writeSomeWriting();
-    const QStringList before = storedWriting();
-    QTemporaryDir folder;
-    QFile picked(folder.filePath(u"picked.json"_s));
-    QVERIFY(picked.open(QIODevice::WriteOnly) && picked.write(file) == file.size() && picked.flush());
-
-    ExportLarkwellFilesViewController menu;
-    QCOMPARE(pick(menu, picked.fileName()), message);
-    QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
-    Alerts::shared().dismiss(0);
-    QCOMPARE(storedWriting(), before);
-    QVERIFY(StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
-}
-
-void TestWritingBackup::restoreMerges_data()
-{
-    QTest::addColumn<bool>("aboutListOpened");
-    QTest::addColumn<QStringList>("notesHere");
-    QTest::addColumn<bool>("changedHere"); // a favourite, a page and the shipped article changed here
-    QTest::addColumn<QString>("summary");
-    QTest::addColumn<QStringList>("writing");
-
-    const QStringList notes{u"note Snow day: Walked to the lake"_s, u"note Evening: Quiet"_s};
-    const QString firstPage = u"page January 1 AM ♥: Frost on the gate\nand my own line"_s;
-    const QString secondPage = u"page January 2 AM ♥: Bread and a blue cup"_s;
-    const QString prayer = u"article My Prayer: Hold this house."_s;
-    const QString all = u"2 notes, 2 favourites, 2 pages, 2 articles will be restored"_s;
-    const QStringList restored = notes + QStringList{firstPage, u"page January 1 PM: The lamp is low\nand the door is shut"_s,
-                                                     secondPage, u"article Welcome: Read a page a day.\nKeep it close."_s, prayer};
-
-    QTest::newRow("onto the book as shipped") << true << QStringList() << false << all << restored;
-    QTest::newRow("a note already here, a page and an article changed here")
-        << true << QStringList{u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s} << true
-        << u"1 note, 1 favourite, 1 page, 1 article will be restored\n\nAlready here: 2 notes.\n\n"
-           "Changed here, so kept as they are: 1 page, 1 article."_s
-        << notes + QStringList{firstPage, u"page January 1 PM: My own lamp"_s, secondPage,
-                               u"article Welcome: My welcome"_s, prayer};
-    QTest::newRow("the about list never opened") << false << QStringList() << false << all << restored;
-}
-
-void TestWritingBackup::restoreMerges()
-{
-    QFETCH(bool, aboutListOpened);
-    QFETCH(QStringList, notesHere);
-    QFETCH(bool, changedHere);
-    QFETCH(QString, summary);
-    QFETCH(QStringList, writing);
-    TestEnvironment environment;
-    shipSmallBook(environment);
-    seedSmallBook();
-    Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, aboutListOpened);
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    About *welcome = context.fetch<About>(About::fetchRequest()).first();
-    if (!aboutListOpened)
-        context.deleteObject(welcome);
-    else if (changedHere)
-        welcome->setAboutText(u"My welcome"_s);
-    context.save();
-    insertNotes(notesHere);
-    if (changedHere) {
-        setPage(1, 2, u"AM"_s, u"T"_s, {});
-        setPage(1, 1, u"PM"_s, {}, u"My own lamp"_s);
+    // Restoring it is the window test's round trip.
+    void backupMatchesGoldenFile()
+    {
+        TestEnvironment environment;
+        shipSmallBook(environment);
+        writeSomeWriting();
+        QCOMPARE(QString::fromUtf8(WritingBackup::toJson(WritingBackup::collect(AppDelegate::shared().viewContext(),
+                                                                                WritingBackup::shippedPageTexts()))),
+                 QString::fromUtf8(golden(u"writing.json"_s)));
     }
 
-    // Cancelled first: nothing written, no snapshot taken.
-    const QStringList before = storedWriting();
-    ExportLarkwellFilesViewController menu;
-    QCOMPARE(pick(menu, goldenPath(u"merge.json"_s)), summary);
-    QCOMPARE(Alerts::shared().buttons(), (QStringList{u"Cancel"_s, u"Restore"_s}));
-    Alerts::shared().dismiss(0);
-    QCOMPARE(storedWriting(), before);
-    QVERIFY(StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+    void refusedFilesWriteNothing_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("message");
 
-    QCOMPARE(pick(menu, goldenPath(u"merge.json"_s)), summary);
-    Alerts::shared().dismiss(1);
-    QCOMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
-    Alerts::shared().dismiss(0);
-    QVERIFY(!StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
-    QCOMPARE(storedWriting(), writing);
-    // The list's first visit must not empty the restored articles.
-    QVERIFY(Preferences::boolForKey(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag));
+        const QString damaged = u"This backup is damaged: %1. Nothing was restored."_s;
+        const QByteArray head = R"({"format": "LarkwellsWriting", "version": 1, "notes": [], "favorites": [], )";
+        QTest::newRow("plain text") << QByteArray("[ABOUT]\nWelcome^Hello\n")
+                                    << u"This file is not a backup of your writing. Nothing was restored."_s;
+        QTest::newRow("newer version") << QByteArray(R"({"format": "LarkwellsWriting", "version": 2})")
+                                       << u"This backup was made by a newer version of The Larkwells Book. Nothing was restored."_s;
+        QTest::newRow("cut short") << golden(u"merge.json"_s).left(400)
+                                   << damaged.arg(u"invalid termination by number at byte 400"_s);
+        QTest::newRow("articles missing") << head + R"("pages": []})" << damaged.arg(u"the articles are missing"_s);
+        QTest::newRow("month 13 on the last page")
+            << head + R"("pages": [{"month": 1, "day": 1, "ampm": "AM", "poemprayer": "x"},
+                                   {"month": 13, "day": 1, "ampm": "AM", "poemprayer": "x"}], "articles": []})"
+            << damaged.arg(u"page 2 has a month that is not a number from 1 to 12"_s);
+        QTest::newRow("note with a wrong date")
+            << QByteArray(R"({"format": "LarkwellsWriting", "version": 1, "favorites": [], "pages": [], "articles": [],
+                              "notes": [{"subject": "a", "dt": "yesterday"}]})")
+            << damaged.arg(u"note 1 has a dt that is not a date"_s);
+    }
 
-    // A second restore of the same file finds nothing left to do.
-    QVERIFY(pick(menu, goldenPath(u"merge.json"_s)).startsWith(u"Everything in this backup is already here."_s));
-    QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
-    Alerts::shared().dismiss(0);
-    QCOMPARE(storedWriting(), writing);
-}
+    void refusedFilesWriteNothing()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, message);
+        TestEnvironment environment;
+        shipSmallBook(environment);
+        writeSomeWriting();
+        const QStringList before = storedWriting();
+        QTemporaryDir folder;
+        const QString picked = folder.filePath(u"picked.json"_s);
+        QVERIFY(writeFile(picked, file));
 
-// The export menu in the real window: the writing backed up and saved through the share sheet,
-// lost, then restored from the saved copy after the summary was confirmed.
-void TestWritingBackup::backUpThenRestoreThroughTheMenu()
-{
-    TestEnvironment environment;
-    shipSmallBook(environment);
-    seedSmallBook();
-    Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, true);
-    insertNotes({u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s, u"Evening|Quiet|2026-01-01T21:00:00Z"_s});
-    ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->setFavorite(u"T"_s);
-    context.save();
-    const QStringList written = storedWriting();
-    QTemporaryDir folder;
-    const QString copy = folder.filePath(u"LarkwellsWriting.json"_s);
+        ExportLarkwellFilesViewController menu;
+        QCOMPARE(pick(menu, picked), message);
+        QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+        Alerts::shared().dismiss(0);
+        QCOMPARE(storedWriting(), before);
+        QVERIFY(StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+    }
 
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
-    QVERIFY(window);
+    void restoreMerges_data()
+    {
+        QTest::addColumn<bool>("aboutListOpened");
+        QTest::addColumn<QStringList>("notesHere");
+        QTest::addColumn<bool>("changedHere"); // a favourite, a page and the shipped article changed here
+        QTest::addColumn<QString>("summary");
+        QTest::addColumn<QStringList>("writing");
 
-    click(window, waitForItem(window, u"BackUpButton"_s));
-    click(window, waitForItem(window, u"share-savecopy"_s));
-    QVERIFY(chooseInFileDialog(window, copy));
-    QTRY_VERIFY(QFileInfo::exists(copy));
+        const QStringList notes{u"note Snow day: Walked to the lake"_s, u"note Evening: Quiet"_s};
+        const QString firstPage = u"page January 1 AM ♥: Frost on the gate\nand my own line"_s;
+        const QString secondPage = u"page January 2 AM ♥: Bread and a blue cup"_s;
+        const QString prayer = u"article My Prayer: Hold this house."_s;
+        const QString all = u"2 notes, 2 favourites, 2 pages, 2 articles will be restored"_s;
+        const QStringList restored = notes + QStringList{firstPage, u"page January 1 PM: The lamp is low\nand the door is shut"_s,
+                                                         secondPage, u"article Welcome: Read a page a day.\nKeep it close."_s, prayer};
 
-    // The writing lost: the notes deleted, the favourite cleared.
-    for (Notes *note : context.fetch<Notes>(Notes::fetchRequest()))
-        context.deleteObject(note);
-    context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->setFavorite(u"F"_s);
-    context.save();
-    QVERIFY(storedWriting() != written);
+        QTest::newRow("onto the book as shipped") << true << QStringList() << false << all << restored;
+        QTest::newRow("a note already here, a page and an article changed here")
+            << true << QStringList{u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s} << true
+            << u"1 note, 1 favourite, 1 page, 1 article will be restored\n\nAlready here: 2 notes.\n\n"
+               "Changed here, so kept as they are: 1 page, 1 article."_s
+            << notes + QStringList{firstPage, u"page January 1 PM: My own lamp"_s, secondPage,
+                                   u"article Welcome: My welcome"_s, prayer};
+        QTest::newRow("the about list never opened") << false << QStringList() << false << all << restored;
+    }
 
-    // The closing share sheet's shade would take the click.
-    QTRY_VERIFY(!window->findChild<QObject *>(u"shareSheet"_s)->property("visible").toBool());
-    click(window, waitForItem(window, u"RestoreButton"_s));
-    QVERIFY(chooseInFileDialog(window, copy));
-    QTRY_COMPARE(Alerts::shared().message(), u"2 notes, 1 favourite will be restored"_s);
-    click(window, waitForItem(window, u"alertButton-Restore"_s));
-    QTRY_COMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
-    click(window, waitForItem(window, u"alertButton-OK"_s));
-    QTRY_VERIFY(!Alerts::shared().showing());
-    QCOMPARE(storedWriting(), written);
-}
+    void restoreMerges()
+    {
+        QFETCH(bool, aboutListOpened);
+        QFETCH(QStringList, notesHere);
+        QFETCH(bool, changedHere);
+        QFETCH(QString, summary);
+        QFETCH(QStringList, writing);
+        TestEnvironment environment;
+        shipSmallBook(environment);
+        seedSmallBook();
+        Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, aboutListOpened);
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        About *welcome = context.fetch<About>(About::fetchRequest()).first();
+        if (!aboutListOpened)
+            context.deleteObject(welcome);
+        else if (changedHere)
+            welcome->setAboutText(u"My welcome"_s);
+        context.save();
+        insertNotes(notesHere);
+        if (changedHere) {
+            setPage(1, 2, u"AM"_s, u"T"_s, {});
+            setPage(1, 1, u"PM"_s, {}, u"My own lamp"_s);
+        }
+
+        // Cancelled first: nothing written, no snapshot taken.
+        const QStringList before = storedWriting();
+        ExportLarkwellFilesViewController menu;
+        QCOMPARE(pick(menu, goldenPath(u"merge.json"_s)), summary);
+        QCOMPARE(Alerts::shared().buttons(), (QStringList{u"Cancel"_s, u"Restore"_s}));
+        Alerts::shared().dismiss(0);
+        QCOMPARE(storedWriting(), before);
+        QVERIFY(StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+
+        QCOMPARE(pick(menu, goldenPath(u"merge.json"_s)), summary);
+        Alerts::shared().dismiss(1);
+        QCOMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
+        Alerts::shared().dismiss(0);
+        QVERIFY(!StoreSnapshots::latest(u"writing-restore"_s).isEmpty());
+        QCOMPARE(storedWriting(), writing);
+        // The list's first visit must not empty the restored articles.
+        QVERIFY(Preferences::boolForKey(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag));
+
+        // A second restore of the same file finds nothing left to do.
+        QVERIFY(pick(menu, goldenPath(u"merge.json"_s)).startsWith(u"Everything in this backup is already here."_s));
+        QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+        Alerts::shared().dismiss(0);
+        QCOMPARE(storedWriting(), writing);
+    }
+
+    // The export menu in the real window: the writing backed up and saved through the share sheet,
+    // lost, then restored from the saved copy after the summary was confirmed.
+    void backUpThenRestoreThroughTheMenu()
+    {
+        TestEnvironment environment;
+        shipSmallBook(environment);
+        seedSmallBook();
+        Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, true);
+        insertNotes({u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s, u"Evening|Quiet|2026-01-01T21:00:00Z"_s});
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->setFavorite(u"T"_s);
+        context.save();
+        const QStringList written = storedWriting();
+        QTemporaryDir folder;
+        const QString copy = folder.filePath(u"LarkwellsWriting.json"_s);
+
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
+        QVERIFY(window);
+
+        click(window, waitForItem(window, u"BackUpButton"_s));
+        click(window, waitForItem(window, u"share-savecopy"_s));
+        QVERIFY(chooseInFileDialog(window, copy));
+        QTRY_VERIFY(QFileInfo::exists(copy));
+
+        // The writing lost: the notes deleted, the favourite cleared.
+        for (Notes *note : context.fetch<Notes>(Notes::fetchRequest()))
+            context.deleteObject(note);
+        context.fetch<PoemPrayer>(PoemPrayer::fetchRequest()).last()->setFavorite(u"F"_s);
+        context.save();
+        QVERIFY(storedWriting() != written);
+
+        // The closing share sheet's shade would take the click.
+        QTRY_VERIFY(!window->findChild<QObject *>(u"shareSheet"_s)->property("visible").toBool());
+        click(window, waitForItem(window, u"RestoreButton"_s));
+        QVERIFY(chooseInFileDialog(window, copy));
+        QTRY_COMPARE(Alerts::shared().message(), u"2 notes, 1 favourite will be restored"_s);
+        click(window, waitForItem(window, u"alertButton-Restore"_s));
+        QTRY_COMPARE(Alerts::shared().message(), u"Your writing was restored."_s);
+        click(window, waitForItem(window, u"alertButton-OK"_s));
+        QTRY_VERIFY(!Alerts::shared().showing());
+        QCOMPARE(storedWriting(), written);
+    }
+};
 
 QTEST_MAIN(TestWritingBackup)
 #include "tst_writingbackup.moc"

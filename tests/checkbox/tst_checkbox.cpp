@@ -18,32 +18,6 @@ using CheckState = M13Checkbox::CheckState;
 using BoxType = M13Checkbox::BoxType;
 using Style = M13Checkbox::AnimationStyle;
 
-class TestCheckbox : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase() { importLarkwellsModule(); }
-    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
-
-    void boxGeometry_data();
-    void boxGeometry();
-    void animationText_data();
-    void animationText();
-    void designTimeText_data();
-    void designTimeText();
-    void pointer_data();
-    void pointer();
-    void setFromCode_data();
-    void setFromCode();
-    void morphingDecidesTheWay_data();
-    void morphingDecidesTheWay();
-    void accessibility_data();
-    void accessibility();
-    void keyboard_data();
-    void keyboard();
-};
-
 namespace {
 
 // A window with one 40 × 40 check box at (60, 60), made by QML as the pages make it.
@@ -116,371 +90,380 @@ bool sameDistinctPoint(QPointF a, QPointF b)
 
 } // namespace
 
-void TestCheckbox::boxGeometry_data()
+class TestCheckbox : public QObject
 {
-    QTest::addColumn<BoxType>("boxType");
-    QTest::addColumn<qreal>("lineWidth");
-    QTest::addColumn<qreal>("cornerRadius");
-    QTest::addColumn<QString>("steps");
+    Q_OBJECT
 
-    QTest::newRow("circle") << BoxType::Circle << 2.0 << 5.0 << u"A 15,15 r14 -90..270 cw"_s;
-    QTest::newRow("square, sharp corners")
-        << BoxType::Square << 2.0 << 0.0 << u"M 15,1; L 29,1; L 29,29; L 1,29; L 1,1; Z"_s;
-    QTest::newRow("square, rounded corners")
-        << BoxType::Square << 2.0 << 4.0
-        << u"M 15,1; L 25,1; A 25,5 r4 -90..0 cw; L 29,25; A 25,25 r4 0..90 cw; L 5,29; "
-           "A 5,25 r4 90..180 cw; L 1,5; A 5,5 r4 180..270 cw; Z"_s;
-    QTest::newRow("square, thick line")
-        << BoxType::Square << 6.0 << 2.0
-        << u"M 15,3; L 25,3; A 25,5 r2 -90..0 cw; L 27,25; A 25,25 r2 0..90 cw; L 5,27; "
-           "A 5,25 r2 90..180 cw; L 3,5; A 5,5 r2 180..270 cw; Z"_s;
-}
+private Q_SLOTS:
+    void initTestCase() { importLarkwellsModule(); }
+    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
 
-void TestCheckbox::boxGeometry()
-{
-    QFETCH(BoxType, boxType);
-    QFETCH(qreal, lineWidth);
-    QFETCH(qreal, cornerRadius);
-    QFETCH(QString, steps);
+    void boxGeometry_data()
+    {
+        QTest::addColumn<BoxType>("boxType");
+        QTest::addColumn<qreal>("lineWidth");
+        QTest::addColumn<qreal>("cornerRadius");
+        QTest::addColumn<QString>("steps");
 
-    M13CheckboxCheckPathGenerator generator;
-    generator.setSize(30);
-    generator.setBoxType(boxType);
-    generator.setBoxLineWidth(lineWidth);
-    generator.setCornerRadius(cornerRadius);
-    const M13CheckboxPath box = generator.boxPath();
-    QCOMPARE(describe(box), steps);
-
-    // Drawn from the top middle clockwise on screen: a quarter of the way round is the right side.
-    const QPainterPath drawn = box.toPainterPath();
-    const qreal edge = lineWidth / 2;
-    QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0), QPointF(15, edge)));
-    QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.25), QPointF(30 - edge, 15)));
-    QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.5), QPointF(15, 30 - edge)));
-    QCOMPARE(drawn.boundingRect(), QRectF(edge, edge, 30 - lineWidth, 30 - lineWidth));
-}
-
-void TestCheckbox::animationText_data()
-{
-    QTest::addColumn<QString>("controller");
-    QTest::addColumn<Style>("style");
-    for (const char *kind : {"Bounce", "Expand", "Flat", "Fade", "Dot"}) {
-        const QString controller = u"M13Checkbox%1Controller"_s.arg(QLatin1StringView(kind));
-        QTest::addRow("%sStroke", kind) << controller << Style::Stroke;
-        QTest::addRow("%sFill", kind) << controller << Style::Fill;
+        QTest::newRow("circle") << BoxType::Circle << 2.0 << 5.0 << u"A 15,15 r14 -90..270 cw"_s;
+        QTest::newRow("square, sharp corners")
+            << BoxType::Square << 2.0 << 0.0 << u"M 15,1; L 29,1; L 29,29; L 1,29; L 1,1; Z"_s;
+        QTest::newRow("square, rounded corners")
+            << BoxType::Square << 2.0 << 4.0
+            << u"M 15,1; L 25,1; A 25,5 r4 -90..0 cw; L 29,25; A 25,25 r4 0..90 cw; L 5,29; "
+               "A 5,25 r4 90..180 cw; L 1,5; A 5,5 r4 180..270 cw; Z"_s;
+        QTest::newRow("square, thick line")
+            << BoxType::Square << 6.0 << 2.0
+            << u"M 15,3; L 25,3; A 25,5 r2 -90..0 cw; L 27,25; A 25,25 r2 0..90 cw; L 5,27; "
+               "A 5,25 r2 90..180 cw; L 3,5; A 5,5 r2 180..270 cw; Z"_s;
     }
-    QTest::newRow("Stroke") << u"M13CheckboxStrokeController"_s << Style::Stroke;
-    QTest::newRow("Fill") << u"M13CheckboxFillController"_s << Style::Fill;
-    QTest::newRow("Spiral") << u"M13CheckboxSpiralController"_s << Style::Stroke;
-}
 
-void TestCheckbox::animationText()
-{
-    QFETCH(QString, controller);
-    QFETCH(Style, style);
-    const QString text = QString::fromLatin1(QTest::currentDataTag());
-    const auto parsed = M13Checkbox::Animation::fromText(text);
-    QVERIFY(parsed);
-    QCOMPARE(parsed->text(), text);
-    QCOMPARE(M13Checkbox::Animation::all().count(*parsed), 1);
+    void boxGeometry()
+    {
+        QFETCH(BoxType, boxType);
+        QFETCH(qreal, lineWidth);
+        QFETCH(qreal, cornerRadius);
+        QFETCH(QString, steps);
 
-    // Changing the animation swaps the controller and keeps what the box showed.
-    M13Checkbox box;
-    box.setSize({40, 40});
-    box.setCheckState(CheckState::Mixed);
-    box.setTintColor(Qt::darkGreen);
-    box.setMarkType(M13Checkbox::MarkType::Radio);
-    box.setBoxType(BoxType::Square);
-    box.setEnableMorphing(false);
-    box.setIBStateChangeAnimation(text);
-    QCOMPARE(QString::fromLatin1(box.controller()->metaObject()->className()), controller);
-    if (auto *styled = qobject_cast<M13CheckboxStyledController *>(box.controller()))
-        QCOMPARE(styled->style(), style);
-    QCOMPARE(box.checkState(), CheckState::Mixed);
-    QCOMPARE(box.tintColor(), QColor(Qt::darkGreen));
-    QCOMPARE(box.markType(), M13Checkbox::MarkType::Radio);
-    QCOMPARE(box.boxType(), BoxType::Square);
-    QCOMPARE(box.controller()->pathGenerator().size(), 40.0);
-    QVERIFY(!box.enableMorphing());
-    QVERIFY(box.controller()->markLayer().isVisible());
-}
+        M13CheckboxCheckPathGenerator generator;
+        generator.setSize(30);
+        generator.setBoxType(boxType);
+        generator.setBoxLineWidth(lineWidth);
+        generator.setCornerRadius(cornerRadius);
+        const M13CheckboxPath box = generator.boxPath();
+        QCOMPARE(describe(box), steps);
 
-void TestCheckbox::designTimeText_data()
-{
-    QTest::addColumn<QString>("assignment");
-    QTest::addColumn<QString>("property");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("state") << u"_IBCheckState: \"Mixed\""_s << u"_IBCheckState"_s << u"Mixed"_s;
-    QTest::newRow("state set from QML") << u"Component.onCompleted: setCheckState(M13Checkbox.Mixed, true)"_s
-                                        << u"_IBCheckState"_s << u"Mixed"_s;
-    QTest::newRow("mark") << u"_IBMarkType: \"AddRemove\""_s << u"_IBMarkType"_s << u"AddRemove"_s;
-    QTest::newRow("box") << u"_IBBoxType: \"Square\""_s << u"_IBBoxType"_s << u"Square"_s;
-    QTest::newRow("animation") << u"_IBStateChangeAnimation: \"DotFill\""_s << u"_IBStateChangeAnimation"_s
-                               << u"DotFill"_s;
-    QTest::newRow("a text outside the list") << u"_IBStateChangeAnimation: \"Bounce\""_s << u"_IBStateChangeAnimation"_s
-                                             << u"Stroke"_s;
-}
-
-void TestCheckbox::designTimeText()
-{
-    QFETCH(QString, assignment);
-    QFETCH(QString, property);
-    QFETCH(QString, expected);
-
-    Scene scene(assignment);
-    QVERIFY2(scene.box, qPrintable(scene.errors));
-    const QString text = scene.box->property(property.toLatin1()).toString();
-    QCOMPARE(text, expected);
-}
-
-void TestCheckbox::pointer_data()
-{
-    QTest::addColumn<bool>("touch");
-    QTest::addColumn<CheckState>("initial");
-    QTest::addColumn<QPointF>("press");
-    QTest::addColumn<QPointF>("release");
-    QTest::addColumn<CheckState>("expected");
-    QTest::addColumn<int>("valueChanges");
-
-    const QPointF inside(20, 20);
-    const QPointF outside(70, 20);
-    for (const bool touch : {false, true}) {
-        const char *how = touch ? "touch" : "mouse";
-        QTest::addRow("%s: unchecked toggles on", how) << touch << CheckState::Unchecked << inside << inside << CheckState::Checked << 1;
-        QTest::addRow("%s: checked toggles off", how) << touch << CheckState::Checked << inside << QPointF(2, 38) << CheckState::Unchecked << 1;
-        QTest::addRow("%s: mixed toggles off", how) << touch << CheckState::Mixed << inside << inside << CheckState::Unchecked << 1;
-        QTest::addRow("%s: lifted outside", how) << touch << CheckState::Unchecked << inside << outside << CheckState::Unchecked << 0;
-        QTest::addRow("%s: lifted just past the edge", how) << touch << CheckState::Checked << inside << QPointF(20, 41) << CheckState::Checked << 0;
+        // Drawn from the top middle clockwise on screen: a quarter of the way round is the right side.
+        const QPainterPath drawn = box.toPainterPath();
+        const qreal edge = lineWidth / 2;
+        QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0), QPointF(15, edge)));
+        QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.25), QPointF(30 - edge, 15)));
+        QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.5), QPointF(15, 30 - edge)));
+        QCOMPARE(drawn.boundingRect(), QRectF(edge, edge, 30 - lineWidth, 30 - lineWidth));
     }
-}
 
-void TestCheckbox::pointer()
-{
-    QFETCH(bool, touch);
-    QFETCH(CheckState, initial);
-    QFETCH(QPointF, press);
-    QFETCH(QPointF, release);
-    QFETCH(CheckState, expected);
-    QFETCH(int, valueChanges);
-
-    Scene scene;
-    QVERIFY2(scene.shown(), qPrintable(scene.errors));
-    scene.box->setCheckState(initial);
-    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
-    // One touch screen for the whole run: Qt keeps every device registered until exit.
-    static QPointingDevice *const touchScreen = QTest::createTouchDevice();
-
-    // Down, a wander outside and back, then up wherever the row says.
-    QQuickWindow *window = scene.window.get();
-    const auto send = [&](QEventPoint::State state, QPointF boxPoint) {
-        const QPoint p = scene.at(boxPoint);
-        if (touch) {
-            auto sequence = QTest::touchEvent(window, touchScreen);
-            state == QEventPoint::Pressed ? sequence.press(0, p) : state == QEventPoint::Updated ? sequence.move(0, p) : sequence.release(0, p);
-        } else if (state == QEventPoint::Pressed) {
-            QTest::mousePress(window, Qt::LeftButton, {}, p);
-        } else if (state == QEventPoint::Updated) {
-            QTest::mouseMove(window, p);
-        } else {
-            QTest::mouseRelease(window, Qt::LeftButton, {}, p);
+    void animationText_data()
+    {
+        QTest::addColumn<QString>("controller");
+        QTest::addColumn<Style>("style");
+        for (const char *kind : {"Bounce", "Expand", "Flat", "Fade", "Dot"}) {
+            const QString controller = u"M13Checkbox%1Controller"_s.arg(QLatin1StringView(kind));
+            QTest::addRow("%sStroke", kind) << controller << Style::Stroke;
+            QTest::addRow("%sFill", kind) << controller << Style::Fill;
         }
-    };
-    send(QEventPoint::Pressed, press);
-    QVERIFY(scene.box->isSelected());
-    for (const QPointF &p : {press, QPointF(90, 90), release})
-        send(QEventPoint::Updated, p);
-    QVERIFY(scene.box->isSelected());
-    send(QEventPoint::Released, release);
-    QVERIFY(!scene.box->isSelected());
-    QCOMPARE(scene.box->checkState(), expected);
-    QCOMPARE(values.size(), valueChanges);
-}
-
-void TestCheckbox::setFromCode_data()
-{
-    QTest::addColumn<QString>("animation");
-    QTest::addColumn<bool>("morphing");
-    QTest::addColumn<bool>("animated");
-    QTest::addColumn<CheckState>("from");
-    QTest::addColumn<CheckState>("to");
-    for (const auto &animation : M13Checkbox::Animation::all()) {
-        const QByteArray text = animation.text().toUtf8();
-        QTest::addRow("%s, on", text.constData()) << animation.text() << true << true << CheckState::Unchecked << CheckState::Checked;
-        QTest::addRow("%s, to mixed", text.constData()) << animation.text() << true << true << CheckState::Checked << CheckState::Mixed;
-        QTest::addRow("%s, to mixed, not morphing", text.constData()) << animation.text() << false << true << CheckState::Checked << CheckState::Mixed;
-        QTest::addRow("%s, off, not morphing", text.constData()) << animation.text() << false << true << CheckState::Mixed << CheckState::Unchecked;
+        QTest::newRow("Stroke") << u"M13CheckboxStrokeController"_s << Style::Stroke;
+        QTest::newRow("Fill") << u"M13CheckboxFillController"_s << Style::Fill;
+        QTest::newRow("Spiral") << u"M13CheckboxSpiralController"_s << Style::Stroke;
     }
-    QTest::newRow("at once") << u"Stroke"_s << true << false << CheckState::Unchecked << CheckState::Mixed;
-    QTest::newRow("same state, animated") << u"Stroke"_s << true << true << CheckState::Checked << CheckState::Checked;
-    QTest::newRow("same state, not morphing") << u"Spiral"_s << false << true << CheckState::Mixed << CheckState::Mixed;
-}
 
-void TestCheckbox::setFromCode()
-{
-    QFETCH(QString, animation);
-    QFETCH(bool, morphing);
-    QFETCH(bool, animated);
-    QFETCH(CheckState, from);
-    QFETCH(CheckState, to);
+    void animationText()
+    {
+        QFETCH(QString, controller);
+        QFETCH(Style, style);
+        const QString text = QString::fromLatin1(QTest::currentDataTag());
+        const auto parsed = M13Checkbox::Animation::fromText(text);
+        QVERIFY(parsed);
+        QCOMPARE(parsed->text(), text);
+        QCOMPARE(M13Checkbox::Animation::all().count(*parsed), 1);
 
-    M13Checkbox box;
-    box.setSize({40, 40});
-    box.setIBStateChangeAnimation(animation);
-    box.setEnableMorphing(morphing);
-    box.setAnimationDuration(0.05);
-    box.setCheckState(from);
-    QSignalSpy values(&box, &M13Checkbox::valueChanged);
-    QSignalSpy states(&box, &M13Checkbox::checkStateChanged);
-
-    box.setCheckState(to, animated);
-    QCOMPARE(box.checkState(), to); // at once, whatever the layers are still doing
-    QCOMPARE(states.size(), from == to ? 0 : 1);
-    if (from == to)
-        QVERIFY(!box.controller()->isAnimating());
-    QTRY_VERIFY(!box.controller()->isAnimating());
-
-    // Wherever the animation went, it ends looking exactly like the state set at once.
-    const QImage animatedEnd = render(*box.controller());
-    box.controller()->resetLayers();
-    QCOMPARE(animatedEnd, render(*box.controller()));
-    QCOMPARE(values.size(), 0);
-}
-
-void TestCheckbox::morphingDecidesTheWay_data()
-{
-    QTest::addColumn<QString>("animation");
-    QTest::addColumn<bool>("morphing");
-    for (const auto &animation : M13Checkbox::Animation::all()) {
-        QTest::newRow(qPrintable(animation.text() + u", morphing"_s)) << animation.text() << true;
-        QTest::newRow(qPrintable(animation.text() + u", not morphing"_s)) << animation.text() << false;
+        // Changing the animation swaps the controller and keeps what the box showed.
+        M13Checkbox box;
+        box.setSize({40, 40});
+        box.setCheckState(CheckState::Mixed);
+        box.setTintColor(Qt::darkGreen);
+        box.setMarkType(M13Checkbox::MarkType::Radio);
+        box.setBoxType(BoxType::Square);
+        box.setEnableMorphing(false);
+        box.setIBStateChangeAnimation(text);
+        QCOMPARE(QString::fromLatin1(box.controller()->metaObject()->className()), controller);
+        if (auto *styled = qobject_cast<M13CheckboxStyledController *>(box.controller()))
+            QCOMPARE(styled->style(), style);
+        QCOMPARE(box.checkState(), CheckState::Mixed);
+        QCOMPARE(box.tintColor(), QColor(Qt::darkGreen));
+        QCOMPARE(box.markType(), M13Checkbox::MarkType::Radio);
+        QCOMPARE(box.boxType(), BoxType::Square);
+        QCOMPARE(box.controller()->pathGenerator().size(), 40.0);
+        QVERIFY(!box.enableMorphing());
+        QVERIFY(box.controller()->markLayer().isVisible());
     }
-}
 
-void TestCheckbox::morphingDecidesTheWay()
-{
-    QFETCH(QString, animation);
-    QFETCH(bool, morphing);
+    void designTimeText_data()
+    {
+        QTest::addColumn<QString>("assignment");
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QString>("expected");
 
-    M13Checkbox box;
-    box.setSize({40, 40});
-    box.setIBStateChangeAnimation(animation);
-    box.setEnableMorphing(morphing);
-    box.setAnimationDuration(1000); // held still by seeking, never by waiting
-    box.setCheckState(CheckState::Checked);
-    box.setCheckState(CheckState::Mixed, true);
-
-    // The effect moves; where its first animation ends: the bar itself when morphing, no mark at
-    // all otherwise.
-    QVERIFY(box.controller()->transition());
-    const QImage start = render(*box.controller());
-    box.controller()->transition()->seek(0.5);
-    QVERIFY(render(*box.controller()) != start);
-    box.controller()->transition()->seek(1);
-    const M13CheckboxLayer &mark = box.controller()->markLayer();
-    QCOMPARE(mark.isVisible(), morphing);
-    if (morphing)
-        QCOMPARE(mark.path, box.controller()->pathGenerator().markPath(CheckState::Mixed));
-    QVERIFY(box.controller()->selectedBoxLayer().isVisible());
-}
-
-void TestCheckbox::accessibility_data()
-{
-    QTest::addColumn<QString>("boxProperties");
-    QTest::addColumn<CheckState>("initial");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<CheckState>("expected");
-
-    const QString toggle = QAccessibleActionInterface::toggleAction();
-    const QString press = QAccessibleActionInterface::pressAction();
-    QTest::newRow("toggle on") << QString() << CheckState::Unchecked << toggle << CheckState::Checked;
-    QTest::newRow("press off") << QString() << CheckState::Checked << press << CheckState::Unchecked;
-    QTest::newRow("toggle mixed") << QString() << CheckState::Mixed << toggle << CheckState::Unchecked;
-    // A box the user cannot see or use refuses a screen reader's actions.
-    QTest::newRow("disabled") << u"enabled: false"_s << CheckState::Unchecked << press << CheckState::Unchecked;
-    QTest::newRow("hidden") << u"visible: false"_s << CheckState::Unchecked << toggle << CheckState::Unchecked;
-}
-
-void TestCheckbox::accessibility()
-{
-    QFETCH(QString, boxProperties);
-    QFETCH(CheckState, initial);
-    QFETCH(QString, action);
-    QFETCH(CheckState, expected);
-
-    Scene scene(boxProperties);
-    QVERIFY2(scene.shown(), qPrintable(scene.errors));
-    scene.box->setCheckState(initial);
-    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(scene.box);
-    QVERIFY(face);
-    QCOMPARE(face->role(), QAccessible::CheckBox);
-    QCOMPARE(face->text(QAccessible::Name), u"Favorite"_s);
-    QVERIFY(face->state().checkable);
-    QCOMPARE(bool(face->state().checked), initial == CheckState::Checked);
-    QCOMPARE(bool(face->state().checkStateMixed), initial == CheckState::Mixed);
-
-    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
-    QVERIFY(face->actionInterface());
-    if (boxProperties.isEmpty())
-        QVERIFY(face->actionInterface()->actionNames().contains(action));
-    face->actionInterface()->doAction(action);
-    QCOMPARE(scene.box->checkState(), expected);
-    QCOMPARE(values.size(), expected == initial ? 0 : 1);
-    QCOMPARE(bool(face->state().checked), expected == CheckState::Checked);
-}
-
-void TestCheckbox::keyboard_data()
-{
-    QTest::addColumn<CheckState>("initial");
-    QTest::addColumn<int>("repeats");
-    QTest::addColumn<bool>("leaveWhileHeld");
-    QTest::addColumn<CheckState>("expected");
-    QTest::addColumn<int>("valueChanges");
-
-    QTest::newRow("mixed toggles off") << CheckState::Mixed << 0 << false << CheckState::Unchecked << 1;
-    QTest::newRow("held down, toggles once") << CheckState::Unchecked << 3 << false << CheckState::Checked << 1;
-    QTest::newRow("focus moved away while held") << CheckState::Checked << 0 << true << CheckState::Checked << 0;
-}
-
-void TestCheckbox::keyboard()
-{
-    QFETCH(CheckState, initial);
-    QFETCH(int, repeats);
-    QFETCH(bool, leaveWhileHeld);
-    QFETCH(CheckState, expected);
-    QFETCH(int, valueChanges);
-
-    Scene scene;
-    QVERIFY2(scene.box, qPrintable(scene.errors));
-    QQuickWindow *window = scene.window.get();
-    window->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(window));
-    scene.box->setCheckState(initial);
-    QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
-
-    // Reached with Tab, it says so to a screen reader and shows a ring round the box.
-    const QRect area(scene.at({-10, -10}), QSize(60, 60));
-    const int accentBefore = accentPixels(window->grabWindow().copy(area));
-    QTest::keyClick(window, Qt::Key_Tab);
-    QVERIFY(scene.box->hasActiveFocus());
-    QVERIFY(scene.box->hasVisualFocus());
-    QVERIFY(QAccessible::queryAccessibleInterface(scene.box)->state().focused);
-    QVERIFY(accentPixels(window->grabWindow().copy(area)) > accentBefore + 40);
-
-    QTest::keyPress(window, Qt::Key_Space);
-    QVERIFY(scene.box->isSelected());
-    for (int i = 0; i < repeats; ++i) {
-        QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
-        QCoreApplication::sendEvent(window, &again);
+        QTest::newRow("state") << u"_IBCheckState: \"Mixed\""_s << u"_IBCheckState"_s << u"Mixed"_s;
+        QTest::newRow("state set from QML") << u"Component.onCompleted: setCheckState(M13Checkbox.Mixed, true)"_s
+                                            << u"_IBCheckState"_s << u"Mixed"_s;
+        QTest::newRow("mark") << u"_IBMarkType: \"AddRemove\""_s << u"_IBMarkType"_s << u"AddRemove"_s;
+        QTest::newRow("box") << u"_IBBoxType: \"Square\""_s << u"_IBBoxType"_s << u"Square"_s;
+        QTest::newRow("animation") << u"_IBStateChangeAnimation: \"DotFill\""_s << u"_IBStateChangeAnimation"_s
+                                   << u"DotFill"_s;
+        QTest::newRow("a text outside the list") << u"_IBStateChangeAnimation: \"Bounce\""_s << u"_IBStateChangeAnimation"_s
+                                                 << u"Stroke"_s;
     }
-    if (leaveWhileHeld)
-        scene.box->setFocus(false);
-    QTest::keyRelease(window, Qt::Key_Space);
-    QVERIFY(!scene.box->isSelected());
-    QCOMPARE(scene.box->checkState(), expected);
-    QCOMPARE(values.size(), valueChanges);
-    QCOMPARE(scene.box->hasVisualFocus(), !leaveWhileHeld);
-}
+
+    void designTimeText()
+    {
+        QFETCH(QString, assignment);
+        QFETCH(QString, property);
+        QFETCH(QString, expected);
+
+        Scene scene(assignment);
+        QVERIFY2(scene.box, qPrintable(scene.errors));
+        const QString text = scene.box->property(property.toLatin1()).toString();
+        QCOMPARE(text, expected);
+    }
+
+    void pointer_data()
+    {
+        QTest::addColumn<bool>("touch");
+        QTest::addColumn<CheckState>("initial");
+        QTest::addColumn<QPointF>("press");
+        QTest::addColumn<QPointF>("release");
+        QTest::addColumn<CheckState>("expected");
+        QTest::addColumn<int>("valueChanges");
+
+        const QPointF inside(20, 20);
+        const QPointF outside(70, 20);
+        for (const bool touch : {false, true}) {
+            const char *how = touch ? "touch" : "mouse";
+            QTest::addRow("%s: unchecked toggles on", how) << touch << CheckState::Unchecked << inside << inside << CheckState::Checked << 1;
+            QTest::addRow("%s: checked toggles off", how) << touch << CheckState::Checked << inside << QPointF(2, 38) << CheckState::Unchecked << 1;
+            QTest::addRow("%s: mixed toggles off", how) << touch << CheckState::Mixed << inside << inside << CheckState::Unchecked << 1;
+            QTest::addRow("%s: lifted outside", how) << touch << CheckState::Unchecked << inside << outside << CheckState::Unchecked << 0;
+            QTest::addRow("%s: lifted just past the edge", how) << touch << CheckState::Checked << inside << QPointF(20, 41) << CheckState::Checked << 0;
+        }
+    }
+
+    void pointer()
+    {
+        QFETCH(bool, touch);
+        QFETCH(CheckState, initial);
+        QFETCH(QPointF, press);
+        QFETCH(QPointF, release);
+        QFETCH(CheckState, expected);
+        QFETCH(int, valueChanges);
+
+        Scene scene;
+        QVERIFY2(scene.shown(), qPrintable(scene.errors));
+        scene.box->setCheckState(initial);
+        QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+        // One touch screen for the whole run: Qt keeps every device registered until exit.
+        static QPointingDevice *const touchScreen = QTest::createTouchDevice();
+
+        // Down, a wander outside and back, then up wherever the row says.
+        QQuickWindow *window = scene.window.get();
+        const auto send = [&](QEventPoint::State state, QPointF boxPoint) {
+            const QPoint p = scene.at(boxPoint);
+            if (touch) {
+                auto sequence = QTest::touchEvent(window, touchScreen);
+                state == QEventPoint::Pressed ? sequence.press(0, p) : state == QEventPoint::Updated ? sequence.move(0, p) : sequence.release(0, p);
+            } else if (state == QEventPoint::Pressed) {
+                QTest::mousePress(window, Qt::LeftButton, {}, p);
+            } else if (state == QEventPoint::Updated) {
+                QTest::mouseMove(window, p);
+            } else {
+                QTest::mouseRelease(window, Qt::LeftButton, {}, p);
+            }
+        };
+        send(QEventPoint::Pressed, press);
+        QVERIFY(scene.box->isSelected());
+        for (const QPointF &p : {press, QPointF(90, 90), release})
+            send(QEventPoint::Updated, p);
+        QVERIFY(scene.box->isSelected());
+        send(QEventPoint::Released, release);
+        QVERIFY(!scene.box->isSelected());
+        QCOMPARE(scene.box->checkState(), expected);
+        QCOMPARE(values.size(), valueChanges);
+    }
+
+    void setFromCode_data()
+    {
+        QTest::addColumn<QString>("animation");
+        QTest::addColumn<bool>("morphing");
+        QTest::addColumn<bool>("animated");
+        QTest::addColumn<CheckState>("from");
+        QTest::addColumn<CheckState>("to");
+        for (const auto &animation : M13Checkbox::Animation::all()) {
+            const QByteArray text = animation.text().toUtf8();
+            QTest::addRow("%s, on", text.constData()) << animation.text() << true << true << CheckState::Unchecked << CheckState::Checked;
+            QTest::addRow("%s, to mixed", text.constData()) << animation.text() << true << true << CheckState::Checked << CheckState::Mixed;
+            QTest::addRow("%s, to mixed, not morphing", text.constData()) << animation.text() << false << true << CheckState::Checked << CheckState::Mixed;
+            QTest::addRow("%s, off, not morphing", text.constData()) << animation.text() << false << true << CheckState::Mixed << CheckState::Unchecked;
+        }
+        QTest::newRow("at once") << u"Stroke"_s << true << false << CheckState::Unchecked << CheckState::Mixed;
+        QTest::newRow("same state, animated") << u"Stroke"_s << true << true << CheckState::Checked << CheckState::Checked;
+        QTest::newRow("same state, not morphing") << u"Spiral"_s << false << true << CheckState::Mixed << CheckState::Mixed;
+    }
+
+    void setFromCode()
+    {
+        QFETCH(QString, animation);
+        QFETCH(bool, morphing);
+        QFETCH(bool, animated);
+        QFETCH(CheckState, from);
+        QFETCH(CheckState, to);
+
+        M13Checkbox box;
+        box.setSize({40, 40});
+        box.setIBStateChangeAnimation(animation);
+        box.setEnableMorphing(morphing);
+        box.setAnimationDuration(0.05);
+        box.setCheckState(from);
+        QSignalSpy values(&box, &M13Checkbox::valueChanged);
+        QSignalSpy states(&box, &M13Checkbox::checkStateChanged);
+
+        box.setCheckState(to, animated);
+        QCOMPARE(box.checkState(), to); // at once, whatever the layers are still doing
+        QCOMPARE(states.size(), from == to ? 0 : 1);
+        if (from == to)
+            QVERIFY(!box.controller()->isAnimating());
+        QTRY_VERIFY(!box.controller()->isAnimating());
+
+        // Wherever the animation went, it ends looking exactly like the state set at once.
+        const QImage animatedEnd = render(*box.controller());
+        box.controller()->resetLayers();
+        QCOMPARE(animatedEnd, render(*box.controller()));
+        QCOMPARE(values.size(), 0);
+    }
+
+    void morphingDecidesTheWay_data()
+    {
+        QTest::addColumn<QString>("animation");
+        QTest::addColumn<bool>("morphing");
+        for (const auto &animation : M13Checkbox::Animation::all()) {
+            QTest::newRow(qPrintable(animation.text() + u", morphing"_s)) << animation.text() << true;
+            QTest::newRow(qPrintable(animation.text() + u", not morphing"_s)) << animation.text() << false;
+        }
+    }
+
+    void morphingDecidesTheWay()
+    {
+        QFETCH(QString, animation);
+        QFETCH(bool, morphing);
+
+        M13Checkbox box;
+        box.setSize({40, 40});
+        box.setIBStateChangeAnimation(animation);
+        box.setEnableMorphing(morphing);
+        box.setAnimationDuration(1000); // held still by seeking, never by waiting
+        box.setCheckState(CheckState::Checked);
+        box.setCheckState(CheckState::Mixed, true);
+
+        // The effect moves; where its first animation ends: the bar itself when morphing, no mark at
+        // all otherwise.
+        QVERIFY(box.controller()->transition());
+        const QImage start = render(*box.controller());
+        box.controller()->transition()->seek(0.5);
+        QVERIFY(render(*box.controller()) != start);
+        box.controller()->transition()->seek(1);
+        const M13CheckboxLayer &mark = box.controller()->markLayer();
+        QCOMPARE(mark.isVisible(), morphing);
+        if (morphing)
+            QCOMPARE(mark.path, box.controller()->pathGenerator().markPath(CheckState::Mixed));
+        QVERIFY(box.controller()->selectedBoxLayer().isVisible());
+    }
+
+    void accessibility_data()
+    {
+        QTest::addColumn<QString>("boxProperties");
+        QTest::addColumn<CheckState>("initial");
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<CheckState>("expected");
+
+        const QString toggle = QAccessibleActionInterface::toggleAction();
+        const QString press = QAccessibleActionInterface::pressAction();
+        QTest::newRow("toggle on") << QString() << CheckState::Unchecked << toggle << CheckState::Checked;
+        QTest::newRow("press off") << QString() << CheckState::Checked << press << CheckState::Unchecked;
+        QTest::newRow("toggle mixed") << QString() << CheckState::Mixed << toggle << CheckState::Unchecked;
+        // A box the user cannot see or use refuses a screen reader's actions.
+        QTest::newRow("disabled") << u"enabled: false"_s << CheckState::Unchecked << press << CheckState::Unchecked;
+        QTest::newRow("hidden") << u"visible: false"_s << CheckState::Unchecked << toggle << CheckState::Unchecked;
+    }
+
+    void accessibility()
+    {
+        QFETCH(QString, boxProperties);
+        QFETCH(CheckState, initial);
+        QFETCH(QString, action);
+        QFETCH(CheckState, expected);
+
+        Scene scene(boxProperties);
+        QVERIFY2(scene.shown(), qPrintable(scene.errors));
+        scene.box->setCheckState(initial);
+        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(scene.box);
+        QVERIFY(face);
+        QCOMPARE(face->role(), QAccessible::CheckBox);
+        QCOMPARE(face->text(QAccessible::Name), u"Favorite"_s);
+        QVERIFY(face->state().checkable);
+        QCOMPARE(bool(face->state().checked), initial == CheckState::Checked);
+        QCOMPARE(bool(face->state().checkStateMixed), initial == CheckState::Mixed);
+
+        QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+        QVERIFY(face->actionInterface());
+        if (boxProperties.isEmpty())
+            QVERIFY(face->actionInterface()->actionNames().contains(action));
+        face->actionInterface()->doAction(action);
+        QCOMPARE(scene.box->checkState(), expected);
+        QCOMPARE(values.size(), expected == initial ? 0 : 1);
+        QCOMPARE(bool(face->state().checked), expected == CheckState::Checked);
+    }
+
+    void keyboard_data()
+    {
+        QTest::addColumn<CheckState>("initial");
+        QTest::addColumn<int>("repeats");
+        QTest::addColumn<bool>("leaveWhileHeld");
+        QTest::addColumn<CheckState>("expected");
+        QTest::addColumn<int>("valueChanges");
+
+        QTest::newRow("mixed toggles off") << CheckState::Mixed << 0 << false << CheckState::Unchecked << 1;
+        QTest::newRow("held down, toggles once") << CheckState::Unchecked << 3 << false << CheckState::Checked << 1;
+        QTest::newRow("focus moved away while held") << CheckState::Checked << 0 << true << CheckState::Checked << 0;
+    }
+
+    void keyboard()
+    {
+        QFETCH(CheckState, initial);
+        QFETCH(int, repeats);
+        QFETCH(bool, leaveWhileHeld);
+        QFETCH(CheckState, expected);
+        QFETCH(int, valueChanges);
+
+        Scene scene;
+        QVERIFY2(scene.box, qPrintable(scene.errors));
+        QQuickWindow *window = scene.window.get();
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        scene.box->setCheckState(initial);
+        QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
+
+        // Reached with Tab, it says so to a screen reader and shows a ring round the box.
+        const QRect area(scene.at({-10, -10}), QSize(60, 60));
+        const int accentBefore = accentPixels(window->grabWindow().copy(area));
+        QTest::keyClick(window, Qt::Key_Tab);
+        QVERIFY(scene.box->hasActiveFocus());
+        QVERIFY(scene.box->hasVisualFocus());
+        QVERIFY(QAccessible::queryAccessibleInterface(scene.box)->state().focused);
+        QVERIFY(accentPixels(window->grabWindow().copy(area)) > accentBefore + 40);
+
+        QTest::keyPress(window, Qt::Key_Space);
+        QVERIFY(scene.box->isSelected());
+        for (int i = 0; i < repeats; ++i) {
+            QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
+            QCoreApplication::sendEvent(window, &again);
+        }
+        if (leaveWhileHeld)
+            scene.box->setFocus(false);
+        QTest::keyRelease(window, Qt::Key_Space);
+        QVERIFY(!scene.box->isSelected());
+        QCOMPARE(scene.box->checkState(), expected);
+        QCOMPARE(values.size(), valueChanges);
+        QCOMPARE(scene.box->hasVisualFocus(), !leaveWhileHeld);
+    }
+};
 
 QTEST_MAIN(TestCheckbox)
 #include "tst_checkbox.moc"

@@ -9,8 +9,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -81,282 +79,265 @@ class TestNotes : public QObject
 
 private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void sortsAndSearchesBySegment_data();
-    void sortsAndSearchesBySegment();
-    void deletingDuringASearchAndUndo();
-    void keystrokesOneAfterAnother_data();
-    void keystrokesOneAfterAnother();
-    void appearanceClearsTheChoice();
-    void saveOutcomes_data();
-    void saveOutcomes();
-    void dateTextFollowsTheLocale_data();
-    void dateTextFollowsTheLocale();
-    void failedSaveKeepsTheText();
-    void backAsksOnlyWhenSomethingChanged();
-};
 
-void TestNotes::sortsAndSearchesBySegment_data()
-{
-    QTest::addColumn<int>("segment");
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QStringList>("subjects");
-    QTest::addColumn<QString>("change"); // to the list, between a first keystroke and the search
-
-    QTest::newRow("subject, descending") << 0 << QString()
-                                         << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s, u"(none)"_s} << QString();
-    QTest::newRow("MEET finds Team meeting") << 0 << u"MEET"_s << QStringList{u"Team meeting"_s} << QString();
-    QTest::newRow("date, descending") << 1 << QString()
-                                      << QStringList{u"Budget"_s, u"Team meeting"_s, u"apples"_s, u"(none)"_s} << QString();
-    QTest::newRow("a month name in the date text") << 1 << u"march"_s << QStringList{u"Team meeting"_s} << QString();
-    QTest::newRow("digits as the date text has them") << 1 << u"31, 2"_s << QStringList{u"Budget"_s} << QString();
-    QTest::newRow("note text, descending") << 2 << QString()
-                                           << QStringList{u"Budget"_s, u"(none)"_s, u"Team meeting"_s, u"apples"_s} << QString();
-    QTest::newRow("MEET in the note text") << 2 << u"MEET"_s << QStringList{u"Budget"_s} << QString();
-    QTest::newRow("no trimming") << 0 << u" apples"_s << QStringList() << QString();
-    QTest::newRow("an edited subject, after the unwind") << 0 << u"ORCH"_s << QStringList{u"Orchard"_s} << u"edit"_s;
-    QTest::newRow("a new note, after the unwind") << 0 << u"gar"_s << QStringList{u"Garage"_s} << u"add"_s;
-}
-
-void TestNotes::sortsAndSearchesBySegment()
-{
-    QFETCH(int, segment);
-    QFETCH(QString, search);
-    QFETCH(QStringList, subjects);
-    QFETCH(QString, change);
-    TestEnvironment environment;
-    insertNotes(someNotes);
-    NotesTableViewController controller;
-    QAbstractItemModelTester tester(controller.rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-    controller.viewWillAppear();
-    // The searched field and list are those of the search's own moment, never of an earlier keystroke.
-    controller.updateSearchResults(u"a"_s);
-    controller.segmentedControlAction(segment);
-    if (change == u"edit"_s) {
-        AppDelegate::shared().viewContext().fetch<Notes>(Notes::fetchRequest()).constFirst()->setSubject(u"Orchard"_s);
-        QVERIFY(!AppDelegate::shared().viewContext().save());
-        controller.unwindToNotesSegue();
-    } else if (change == u"add"_s) {
-        insertNotes({u"Garage|oil|-|-|-|6|1|AM"_s});
-        controller.unwindToNotesSegue();
-    }
-    controller.updateSearchResults(search);
-
-    QCOMPARE(subjectsShown(*controller.rows()), subjects);
-    const QStringList placeholders{u"Search Notes by Subject"_s, u"Search Notes by Date"_s, u"Search Notes by Note"_s};
-    QCOMPARE(controller.placeholder(), placeholders[segment]);
-    if (const int row = int(subjects.indexOf(u"(none)"_s)); row >= 0) {
-        const QModelIndex undated = controller.rows()->index(row);
-        QCOMPARE(undated.data(NotesListModel::MainTextRole).toString(), u"  Subject: "_s);
-        QCOMPARE(undated.data(NotesListModel::DetailTextRole).toString(), u"march on"_s);
-    }
-}
-
-void TestNotes::deletingDuringASearchAndUndo()
-{
-    TestEnvironment environment;
-    insertNotes(someNotes);
-    NotesTableViewController controller;
-    QAbstractItemModelTester tester(controller.rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-    controller.viewWillAppear();
-    controller.updateSearchResults(u"e"_s); // apples, Team meeting, Budget
-    const QStringList before = storedNotes();
-
-    controller.deleteRow(1);
-    QCOMPARE(subjectsShown(*controller.rows()), (QStringList{u"apples"_s, u"Budget"_s}));
-    QCOMPARE(storedNotes().size(), 3);
-    QCOMPARE(storedNotes().filter(u"Team meeting"_s), QStringList());
-    QVERIFY(controller.canUndoDelete());
-
-    // The whole list keeps the note until the next fetch.
-    controller.updateSearchResults(QString());
-    QCOMPARE(controller.rows()->rowCount(), 4);
-
-    controller.undoDelete();
-    QCOMPARE(storedNotes(), before);
-    QVERIFY(!controller.canUndoDelete());
-    QCOMPARE(subjectsShown(*controller.rows()).count(u"Team meeting"_s), 1);
-}
-
-void TestNotes::keystrokesOneAfterAnother_data()
-{
-    QTest::addColumn<QStringList>("steps"); // search texts, or "delete:N" for a row deleted
-    QTest::addColumn<QStringList>("subjects");
-    QTest::newRow("typing on") << QStringList{u"e"_s, u"ee"_s, u"eet"_s} << QStringList{u"Team meeting"_s};
-    QTest::newRow("back to a shorter text") << QStringList{u"e"_s, u"ee"_s, u"e"_s}
-                                           << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s};
-    QTest::newRow("a text holding the last one") << QStringList{u"g"_s, u"dg"_s} << QStringList{u"Budget"_s};
-    QTest::newRow("a row deleted from the whole list")
-        << QStringList{u"e"_s, QString(), u"delete:0"_s, u"e"_s} << QStringList{u"Team meeting"_s, u"Budget"_s};
-}
-
-void TestNotes::keystrokesOneAfterAnother()
-{
-    QFETCH(QStringList, steps);
-    QFETCH(QStringList, subjects);
-    TestEnvironment environment;
-    insertNotes(someNotes);
-    NotesTableViewController controller;
-    controller.viewWillAppear();
-    for (const QString &step : std::as_const(steps)) {
-        if (step.startsWith(u"delete:"_s))
-            controller.deleteRow(step.mid(7).toInt());
-        else
-            controller.updateSearchResults(step);
-    }
-    QCOMPARE(subjectsShown(*controller.rows()), subjects);
-}
-
-void TestNotes::appearanceClearsTheChoice()
-{
-    TestEnvironment environment;
-    insertNotes({someNotes.first()});
-    NotesTableViewController controller;
-    controller.viewWillAppear();
-    controller.didSelectRowAt(0);
-    controller.viewWillAppear();
-    const Selection &selection = Selection::shared();
-    QCOMPARE((QStringList{selection.editNoteSubject(), selection.editNoteText(), selection.editNoteDtstring(),
-                          QString::number(selection.editNoteMonth()), QString::number(selection.editNoteDay()),
-                          QString::number(selection.editNoteYear())}),
-             (QStringList{QString(), QString(), QString(), u"0"_s, u"0"_s, u"2027"_s})); // the year is not cleared
-    QVERIFY(!selection.editNoteDate().isValid());
-}
-
-void TestNotes::saveOutcomes_data()
-{
-    QTest::addColumn<QStringList>("stored");
-    QTest::addColumn<bool>("chooseFirst"); // open the first stored note, else a new one
-    QTest::addColumn<QStringList>("expected");
-
-    QTest::newRow("new note: the page's day, no date fields") << QStringList() << false
-        << QStringList{u"Walk|by the river|-|-|0|3|3|AM"_s};
-    QTest::newRow("edited note found by its key") << QStringList{u"Walk|old|Sunday, March 3, 2024|2024-03-03|2024|3|3|AM"_s} << true
-        << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
-    QTest::newRow("first edit of a note saved without date") << QStringList{u"Walk|old|-|-|0|3|3|AM"_s} << true
-        << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
-    QTest::newRow("other time of day: saved as a new note") << QStringList{u"Walk|old|-|-|2024|3|3|PM"_s} << true
-        << QStringList{u"Walk|by the river|-|-|0|3|3|AM"_s, u"Walk|old|-|-|2024|3|3|PM"_s};
-    QTest::newRow("two matches: nothing written")
-        << QStringList{u"Walk|one|-|-|2024|3|3|AM"_s, u"Walk|two|-|-|2024|3|3|AM"_s} << true
-        << QStringList{u"Walk|one|-|-|2024|3|3|AM"_s, u"Walk|two|-|-|2024|3|3|AM"_s};
-}
-
-void TestNotes::saveOutcomes()
-{
-    QFETCH(QStringList, stored);
-    QFETCH(bool, chooseFirst);
-    QFETCH(QStringList, expected);
-    TestEnvironment environment;
-    Clock::set([] { return QDateTime(QDate(2027, 1, 9), QTime(8, 0)); });
-    insertNotes(stored);
-    Selection::shared().setSelectedMonth(3);
-    Selection::shared().setSelectedDay(3);
-    Selection::shared().setSelectedAmpm(u"AM"_s);
-    NotesTableViewController list;
-    list.viewWillAppear();
-    if (chooseFirst)
-        list.didSelectRowAt(0);
-
-    EditNotesViewController editor;
-    editor.viewDidLoad();
-    editor.setSubjectTextField(u"Walk"_s);
-    editor.setNotesTextView(u"by the river"_s);
-    editor.DateEntered();
-    editor.doneClick(2027, 4, 5);
-    QSignalSpy unwinds(&Navigator::shared(), &Navigator::unwindRequested);
-    editor.SaveButtonClicked();
-
-    QCOMPARE(storedNotes(), expected);
-    QCOMPARE(unwinds.size(), 1);
-    QCOMPARE(unwinds.first().first().toString(), u"unwindToNotesSegue"_s);
-}
-
-void TestNotes::dateTextFollowsTheLocale_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("today");
-    QTest::addColumn<QString>("picked");
-    QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedStates) << u"Wednesday, March 3, 2027"_s
-                             << u"Monday, January 4, 2027"_s;
-    QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << u"Mittwoch, 3. März 2027"_s
-                            << u"Montag, 4. Januar 2027"_s;
-}
-
-void TestNotes::dateTextFollowsTheLocale()
-{
-    QFETCH(QLocale, locale);
-    QFETCH(QString, today);
-    QFETCH(QString, picked);
-    TestEnvironment environment;
-    QLocale::setDefault(locale);
-    Clock::set([] { return QDateTime(QDate(2027, 3, 3), QTime(23, 30)); });
-    EditNotesViewController editor;
-    editor.viewDidLoad();
-    QCOMPARE(editor.DateTextField(), today);
-
-    editor.dateChanged(2027, 1, 4);
-    QCOMPARE(editor.DateTextField(), picked);
-    QCOMPARE(editor.NoteDate().date(), QDate(2027, 1, 4));
-
-    // "Today" writes today's text but keeps the picker's date for saving.
-    editor.todayClick();
-    QCOMPARE(editor.DateTextField(), today);
-    QCOMPARE(editor.NoteDate().date(), QDate(2027, 1, 4));
-}
-
-void TestNotes::failedSaveKeepsTheText()
-{
-    TestEnvironment environment;
-    AppDelegate::shared().viewContext();
+    void sortsAndSearchesBySegment_data()
     {
-        QSqlDatabase saboteur = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"saboteur"_s);
-        saboteur.setDatabaseName(AppDelegate::shared().persistentContainer().storePath());
-        QVERIFY(saboteur.open());
-        QVERIFY(QSqlQuery(saboteur).exec(
-            u"CREATE TRIGGER refuse BEFORE INSERT ON Notes BEGIN SELECT RAISE(ABORT, 'disk full'); END"_s));
+        QTest::addColumn<int>("segment");
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<QStringList>("subjects");
+        QTest::addColumn<QString>("change"); // to the list, between a first keystroke and the search
+
+        QTest::newRow("subject, descending") << 0 << QString()
+                                             << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s, u"(none)"_s} << QString();
+        QTest::newRow("MEET finds Team meeting") << 0 << u"MEET"_s << QStringList{u"Team meeting"_s} << QString();
+        QTest::newRow("date, descending") << 1 << QString()
+                                          << QStringList{u"Budget"_s, u"Team meeting"_s, u"apples"_s, u"(none)"_s} << QString();
+        QTest::newRow("a month name in the date text") << 1 << u"march"_s << QStringList{u"Team meeting"_s} << QString();
+        QTest::newRow("digits as the date text has them") << 1 << u"31, 2"_s << QStringList{u"Budget"_s} << QString();
+        QTest::newRow("note text, descending") << 2 << QString()
+                                               << QStringList{u"Budget"_s, u"(none)"_s, u"Team meeting"_s, u"apples"_s} << QString();
+        QTest::newRow("MEET in the note text") << 2 << u"MEET"_s << QStringList{u"Budget"_s} << QString();
+        QTest::newRow("no trimming") << 0 << u" apples"_s << QStringList() << QString();
+        QTest::newRow("an edited subject, after the unwind") << 0 << u"ORCH"_s << QStringList{u"Orchard"_s} << u"edit"_s;
+        QTest::newRow("a new note, after the unwind") << 0 << u"gar"_s << QStringList{u"Garage"_s} << u"add"_s;
     }
-    EditNotesViewController editor;
-    editor.viewDidLoad();
-    editor.setSubjectTextField(u"Keep me"_s);
-    editor.setNotesTextView(u"every word"_s);
-    QSignalSpy unwinds(&Navigator::shared(), &Navigator::unwindRequested);
-    editor.SaveButtonClicked();
 
-    QVERIFY(!Alerts::shared().showing());
-    QCOMPARE(unwinds.size(), 0);
-    QCOMPARE(editor.NotesTextView(), u"every word"_s);
-    QVERIFY(storedNotes().isEmpty());
-    QVERIFY(!environment.logLines.isEmpty());
+    void sortsAndSearchesBySegment()
+    {
+        QFETCH(int, segment);
+        QFETCH(QString, search);
+        QFETCH(QStringList, subjects);
+        QFETCH(QString, change);
+        TestEnvironment environment;
+        insertNotes(someNotes);
+        NotesTableViewController controller;
+        QAbstractItemModelTester tester(controller.rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        controller.viewWillAppear();
+        // The searched field and list are those of the search's own moment, never of an earlier keystroke.
+        controller.updateSearchResults(u"a"_s);
+        controller.segmentedControlAction(segment);
+        if (change == u"edit"_s) {
+            AppDelegate::shared().viewContext().fetch<Notes>(Notes::fetchRequest()).constFirst()->setSubject(u"Orchard"_s);
+            QVERIFY(!AppDelegate::shared().viewContext().save());
+            controller.unwindToNotesSegue();
+        } else if (change == u"add"_s) {
+            insertNotes({u"Garage|oil|-|-|-|6|1|AM"_s});
+            controller.unwindToNotesSegue();
+        }
+        controller.updateSearchResults(search);
 
-    QVERIFY(QSqlQuery(QSqlDatabase::database(u"saboteur"_s)).exec(u"DROP TRIGGER refuse"_s));
-    QSqlDatabase::removeDatabase(u"saboteur"_s);
-    editor.SaveButtonClicked();
-    QCOMPARE(unwinds.size(), 1);
-    QCOMPARE(storedNotes(), QStringList{u"Keep me|every word|-|-|0|0|0|"_s});
-}
+        QCOMPARE(subjectsShown(*controller.rows()), subjects);
+        const QStringList placeholders{u"Search Notes by Subject"_s, u"Search Notes by Date"_s, u"Search Notes by Note"_s};
+        QCOMPARE(controller.placeholder(), placeholders[segment]);
+        if (const int row = int(subjects.indexOf(u"(none)"_s)); row >= 0) {
+            const QModelIndex undated = controller.rows()->index(row);
+            QCOMPARE(undated.data(NotesListModel::MainTextRole).toString(), u"  Subject: "_s);
+            QCOMPARE(undated.data(NotesListModel::DetailTextRole).toString(), u"march on"_s);
+        }
+    }
 
-void TestNotes::backAsksOnlyWhenSomethingChanged()
-{
-    TestEnvironment environment;
-    EditNotesViewController editor;
-    editor.viewDidLoad();
-    QSignalSpy dismissals(&editor, &EditNotesViewController::dismissRequested);
-    editor.BackButtonClicked();
-    QCOMPARE(dismissals.size(), 1);
-    QVERIFY(!Alerts::shared().showing());
+    void deletingDuringASearchAndUndo()
+    {
+        TestEnvironment environment;
+        insertNotes(someNotes);
+        NotesTableViewController controller;
+        QAbstractItemModelTester tester(controller.rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        controller.viewWillAppear();
+        controller.updateSearchResults(u"e"_s); // apples, Team meeting, Budget
+        const QStringList before = storedNotes();
 
-    editor.setNotesTextView(u"half a thought"_s);
-    editor.BackButtonClicked();
-    QCOMPARE(Alerts::shared().title(), u"Discard changes?"_s);
-    QCOMPARE(Alerts::shared().buttons(), (QStringList{u"Discard"_s, u"Keep Editing"_s}));
-    Alerts::shared().dismiss(1);
-    QCOMPARE(dismissals.size(), 1);
-    QCOMPARE(editor.NotesTextView(), u"half a thought"_s);
+        controller.deleteRow(1);
+        QCOMPARE(subjectsShown(*controller.rows()), (QStringList{u"apples"_s, u"Budget"_s}));
+        QCOMPARE(storedNotes().size(), 3);
+        QCOMPARE(storedNotes().filter(u"Team meeting"_s), QStringList());
+        QVERIFY(controller.canUndoDelete());
 
-    editor.BackButtonClicked();
-    Alerts::shared().dismiss(0);
-    QCOMPARE(dismissals.size(), 2);
-}
+        // The whole list keeps the note until the next fetch.
+        controller.updateSearchResults(QString());
+        QCOMPARE(controller.rows()->rowCount(), 4);
+
+        controller.undoDelete();
+        QCOMPARE(storedNotes(), before);
+        QVERIFY(!controller.canUndoDelete());
+        QCOMPARE(subjectsShown(*controller.rows()).count(u"Team meeting"_s), 1);
+    }
+
+    void keystrokesOneAfterAnother_data()
+    {
+        QTest::addColumn<QStringList>("steps"); // search texts, or "delete:N" for a row deleted
+        QTest::addColumn<QStringList>("subjects");
+        QTest::newRow("typing on") << QStringList{u"e"_s, u"ee"_s, u"eet"_s} << QStringList{u"Team meeting"_s};
+        QTest::newRow("back to a shorter text") << QStringList{u"e"_s, u"ee"_s, u"e"_s}
+                                               << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s};
+        QTest::newRow("a text holding the last one") << QStringList{u"g"_s, u"dg"_s} << QStringList{u"Budget"_s};
+        QTest::newRow("a row deleted from the whole list")
+            << QStringList{u"e"_s, QString(), u"delete:0"_s, u"e"_s} << QStringList{u"Team meeting"_s, u"Budget"_s};
+    }
+
+    void keystrokesOneAfterAnother()
+    {
+        QFETCH(QStringList, steps);
+        QFETCH(QStringList, subjects);
+        TestEnvironment environment;
+        insertNotes(someNotes);
+        NotesTableViewController controller;
+        controller.viewWillAppear();
+        for (const QString &step : std::as_const(steps)) {
+            if (step.startsWith(u"delete:"_s))
+                controller.deleteRow(step.mid(7).toInt());
+            else
+                controller.updateSearchResults(step);
+        }
+        QCOMPARE(subjectsShown(*controller.rows()), subjects);
+    }
+
+    void appearanceClearsTheChoice()
+    {
+        TestEnvironment environment;
+        insertNotes({someNotes.first()});
+        NotesTableViewController controller;
+        controller.viewWillAppear();
+        controller.didSelectRowAt(0);
+        controller.viewWillAppear();
+        const Selection &selection = Selection::shared();
+        QCOMPARE((QStringList{selection.editNoteSubject(), selection.editNoteText(), selection.editNoteDtstring(),
+                              QString::number(selection.editNoteMonth()), QString::number(selection.editNoteDay()),
+                              QString::number(selection.editNoteYear())}),
+                 (QStringList{QString(), QString(), QString(), u"0"_s, u"0"_s, u"2027"_s})); // the year is not cleared
+        QVERIFY(!selection.editNoteDate().isValid());
+    }
+
+    void saveOutcomes_data()
+    {
+        QTest::addColumn<QStringList>("stored");
+        QTest::addColumn<bool>("chooseFirst"); // open the first stored note, else a new one
+        QTest::addColumn<QStringList>("expected");
+
+        QTest::newRow("new note: the page's day, no date fields") << QStringList() << false
+            << QStringList{u"Walk|by the river|-|-|0|3|3|AM"_s};
+        QTest::newRow("edited note found by its key") << QStringList{u"Walk|old|Sunday, March 3, 2024|2024-03-03|2024|3|3|AM"_s} << true
+            << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
+        QTest::newRow("first edit of a note saved without date") << QStringList{u"Walk|old|-|-|0|3|3|AM"_s} << true
+            << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
+        QTest::newRow("other time of day: saved as a new note") << QStringList{u"Walk|old|-|-|2024|3|3|PM"_s} << true
+            << QStringList{u"Walk|by the river|-|-|0|3|3|AM"_s, u"Walk|old|-|-|2024|3|3|PM"_s};
+        QTest::newRow("two matches: nothing written")
+            << QStringList{u"Walk|one|-|-|2024|3|3|AM"_s, u"Walk|two|-|-|2024|3|3|AM"_s} << true
+            << QStringList{u"Walk|one|-|-|2024|3|3|AM"_s, u"Walk|two|-|-|2024|3|3|AM"_s};
+    }
+
+    void saveOutcomes()
+    {
+        QFETCH(QStringList, stored);
+        QFETCH(bool, chooseFirst);
+        QFETCH(QStringList, expected);
+        TestEnvironment environment;
+        Clock::set([] { return QDateTime(QDate(2027, 1, 9), QTime(8, 0)); });
+        insertNotes(stored);
+        Selection::shared().setSelectedMonth(3);
+        Selection::shared().setSelectedDay(3);
+        Selection::shared().setSelectedAmpm(u"AM"_s);
+        NotesTableViewController list;
+        list.viewWillAppear();
+        if (chooseFirst)
+            list.didSelectRowAt(0);
+
+        EditNotesViewController editor;
+        editor.viewDidLoad();
+        editor.setSubjectTextField(u"Walk"_s);
+        editor.setNotesTextView(u"by the river"_s);
+        editor.DateEntered();
+        editor.doneClick(2027, 4, 5);
+        QSignalSpy unwinds(&Navigator::shared(), &Navigator::unwindRequested);
+        editor.SaveButtonClicked();
+
+        QCOMPARE(storedNotes(), expected);
+        QCOMPARE(unwinds.size(), 1);
+        QCOMPARE(unwinds.first().first().toString(), u"unwindToNotesSegue"_s);
+    }
+
+    void dateTextFollowsTheLocale_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("today");
+        QTest::addColumn<QString>("picked");
+        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedStates) << u"Wednesday, March 3, 2027"_s
+                                 << u"Monday, January 4, 2027"_s;
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << u"Mittwoch, 3. März 2027"_s
+                                << u"Montag, 4. Januar 2027"_s;
+    }
+
+    void dateTextFollowsTheLocale()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, today);
+        QFETCH(QString, picked);
+        TestEnvironment environment;
+        QLocale::setDefault(locale);
+        Clock::set([] { return QDateTime(QDate(2027, 3, 3), QTime(23, 30)); });
+        EditNotesViewController editor;
+        editor.viewDidLoad();
+        QCOMPARE(editor.DateTextField(), today);
+
+        editor.dateChanged(2027, 1, 4);
+        QCOMPARE(editor.DateTextField(), picked);
+        QCOMPARE(editor.NoteDate().date(), QDate(2027, 1, 4));
+
+        // "Today" writes today's text but keeps the picker's date for saving.
+        editor.todayClick();
+        QCOMPARE(editor.DateTextField(), today);
+        QCOMPARE(editor.NoteDate().date(), QDate(2027, 1, 4));
+    }
+
+    void failedSaveKeepsTheText()
+    {
+        TestEnvironment environment;
+        AppDelegate::shared().viewContext();
+        const QString store = AppDelegate::shared().persistentContainer().storePath();
+        QCOMPARE(sqlRun(store, {u"CREATE TRIGGER refuse BEFORE INSERT ON Notes BEGIN SELECT RAISE(ABORT, 'disk full'); END"_s}),
+                 QStringList());
+        EditNotesViewController editor;
+        editor.viewDidLoad();
+        editor.setSubjectTextField(u"Keep me"_s);
+        editor.setNotesTextView(u"every word"_s);
+        QSignalSpy unwinds(&Navigator::shared(), &Navigator::unwindRequested);
+        editor.SaveButtonClicked();
+
+        QVERIFY(!Alerts::shared().showing());
+        QCOMPARE(unwinds.size(), 0);
+        QCOMPARE(editor.NotesTextView(), u"every word"_s);
+        QVERIFY(storedNotes().isEmpty());
+        QVERIFY(!environment.logLines.isEmpty());
+
+        QCOMPARE(sqlRun(store, {u"DROP TRIGGER refuse"_s}), QStringList());
+        editor.SaveButtonClicked();
+        QCOMPARE(unwinds.size(), 1);
+        QCOMPARE(storedNotes(), QStringList{u"Keep me|every word|-|-|0|0|0|"_s});
+    }
+
+    void backAsksOnlyWhenSomethingChanged()
+    {
+        TestEnvironment environment;
+        EditNotesViewController editor;
+        editor.viewDidLoad();
+        QSignalSpy dismissals(&editor, &EditNotesViewController::dismissRequested);
+        editor.BackButtonClicked();
+        QCOMPARE(dismissals.size(), 1);
+        QVERIFY(!Alerts::shared().showing());
+
+        editor.setNotesTextView(u"half a thought"_s);
+        editor.BackButtonClicked();
+        QCOMPARE(Alerts::shared().title(), u"Discard changes?"_s);
+        QCOMPARE(Alerts::shared().buttons(), (QStringList{u"Discard"_s, u"Keep Editing"_s}));
+        Alerts::shared().dismiss(1);
+        QCOMPARE(dismissals.size(), 1);
+        QCOMPARE(editor.NotesTextView(), u"half a thought"_s);
+
+        editor.BackButtonClicked();
+        Alerts::shared().dismiss(0);
+        QCOMPARE(dismissals.size(), 2);
+    }
+};
 
 QTEST_MAIN(TestNotes)
 #include "tst_notes.moc"

@@ -30,147 +30,135 @@ class TestSharing : public QObject
 private Q_SLOTS:
     void initTestCase() { importLarkwellsModule(); }
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void cleanup();
-    void sheetOffersWhatTheDesktopCanDo_data();
-    void sheetOffersWhatTheDesktopCanDo();
-    void saveOpensTheFileDialog();
-    void missingDialogModuleIsAnAlert();
-    void unwritableFileIsAnAlert();
-    void mailThatCannotStartIsAnAlert();
+
+    void cleanup()
+    {
+        Sharing::shared().cancel();
+        dismissAlerts();
+        Sharing::shared().setCanSendTextForTesting(std::nullopt);
+        Sharing::shared().setCanSendMailForTesting(std::nullopt);
+    }
+
+    void sheetOffersWhatTheDesktopCanDo_data()
+    {
+        QTest::addColumn<bool>("text");
+        QTest::addColumn<bool>("mail");
+        QTest::newRow("mail only") << false << true;
+        QTest::newRow("text only") << true << false;
+    }
+
+    void sheetOffersWhatTheDesktopCanDo()
+    {
+        QFETCH(bool, text);
+        QFETCH(bool, mail);
+        TestEnvironment environment;
+        Sharing::shared().setCanSendTextForTesting(text);
+        Sharing::shared().setCanSendMailForTesting(mail);
+        QQmlEngine engine;
+        const auto shown = showSheet(engine);
+        QQuickWindow *window = shown.get();
+        QVERIFY(window);
+        QCOMPARE(option(window, u"sms"_s)->isVisible(), text);
+        QCOMPARE(option(window, u"mail"_s)->isVisible(), mail);
+        QVERIFY(option(window, u"file"_s)->isVisible());
+    }
+
+    void saveOpensTheFileDialog()
+    {
+        TestEnvironment environment;
+        QQmlEngine engine;
+        const auto shown = showSheet(engine);
+        QQuickWindow *window = shown.get();
+        QVERIFY(window);
+        QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
+        QTRY_VERIFY(window->findChild<QObject *>(u"saveTextDialog"_s));
+        auto *dialog = window->findChild<QObject *>(u"saveTextDialog"_s);
+        QTRY_VERIFY(dialog->property("visible").toBool());
+        QVERIFY(!Alerts::shared().showing());
+    }
+
+    void missingDialogModuleIsAnAlert()
+    {
+        TestEnvironment environment;
+        QTemporaryDir folder;
+        const QString broken = folder.filePath(u"Dialog.qml"_s);
+        QVERIFY(writeFile(broken, "import Qt.labs.notinstalled\nimport QtQuick\nItem {}\n"));
+        QQmlEngine engine;
+        const auto shown = showSheet(engine);
+        QQuickWindow *window = shown.get();
+        QVERIFY(window);
+        window->findChild<QObject *>(u"sheet"_s)->setProperty("saveDialogSource", QUrl::fromLocalFile(broken));
+        QTest::failOnWarning(QRegularExpression(u"^(?!.*notinstalled).*qml.*"_s));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"notinstalled"_s));
+        QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
+        QTRY_VERIFY(Alerts::shared().showing());
+        QCOMPARE(Alerts::shared().title(), u"Share"_s);
+        QVERIFY(Alerts::shared().message().contains(u"file dialog is not installed"_s));
+        QVERIFY(Sharing::shared().showing()); // the user can still choose another way
+    }
+
+    void unwritableFileIsAnAlert()
+    {
+        TestEnvironment environment;
+        bool completed = true;
+        Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}, {}});
+        Sharing::shared().saveToFile(QUrl::fromLocalFile(environment.dataDirectory() + u"/no/such/folder/x.txt"_s));
+        QTRY_VERIFY(Alerts::shared().showing());
+        QCOMPARE(Alerts::shared().title(), u"Share"_s);
+        QVERIFY(Sharing::shared().showing());
+        Sharing::shared().cancel();
+        QVERIFY(!completed);
+    }
+
+    void mailThatCannotStartIsAnAlert()
+    {
+        TestEnvironment environment;
+        std::optional<bool> completed;
+        Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}, {}});
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"mailto"_s)); // no mail client here
+        Sharing::shared().email();
+        QTRY_VERIFY(Alerts::shared().showing());
+        QCOMPARE(Alerts::shared().title(), u"Sending Email"_s);
+        QCOMPARE(Alerts::shared().message(), u"Email not Setup or Unavailable"_s);
+        QVERIFY(!completed); // nothing done yet: the sheet stays for another choice
+        QVERIFY(Sharing::shared().showing());
+
+        MailClient client;
+        QDesktopServices::setUrlHandler(u"mailto"_s, &client, "open");
+        Sharing::shared().email();
+        QDesktopServices::unsetUrlHandler(u"mailto"_s);
+        QCOMPARE(client.opened.size(), 1);
+        QCOMPARE(client.opened.first().query().contains(u"body=text"_s), true);
+        QCOMPARE(completed, std::optional(true));
+    }
 
 private:
-    std::unique_ptr<QQuickWindow> showSheet(QQmlEngine &engine);
-    QQuickItem *option(QQuickWindow *window, const QString &name);
+    std::unique_ptr<QQuickWindow> showSheet(QQmlEngine &engine)
+    {
+        engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick.Controls\nimport Larkwells\n"
+                          "ApplicationWindow { width: 360; height: 640; visible: true\n"
+                          "ShareSheet { objectName: \"sheet\" }\nAlertDialog {} }",
+                          QUrl(u"qrc:/test/SheetWindow.qml"_s));
+        std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
+        if (!window)
+            qWarning() << component.errorString();
+        if (!window || !QTest::qWaitForWindowExposed(window.get()))
+            return nullptr;
+        Sharing::shared().present({u"A line to share"_s, {}, {}, {}});
+        auto *sheet = window->findChild<QObject *>(u"sheet"_s);
+        if (!QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }))
+            return nullptr;
+        return window;
+    }
+
+    QQuickItem *option(QQuickWindow *window, const QString &name)
+    {
+        auto *sheet = window->findChild<QObject *>(u"sheet"_s);
+        return findItem(sheet->property("contentItem").value<QQuickItem *>(), u"share-"_s + name);
+    }
 };
-
-void TestSharing::cleanup()
-{
-    Sharing::shared().cancel();
-    dismissAlerts();
-    Sharing::shared().setCanSendTextForTesting(std::nullopt);
-    Sharing::shared().setCanSendMailForTesting(std::nullopt);
-}
-
-std::unique_ptr<QQuickWindow> TestSharing::showSheet(QQmlEngine &engine)
-{
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick.Controls\nimport Larkwells\n"
-                      "ApplicationWindow { width: 360; height: 640; visible: true\n"
-                      "ShareSheet { objectName: \"sheet\" }\nAlertDialog {} }",
-                      QUrl(u"qrc:/test/SheetWindow.qml"_s));
-    std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
-    if (!window)
-        qWarning() << component.errorString();
-    if (!window || !QTest::qWaitForWindowExposed(window.get()))
-        return nullptr;
-    Sharing::shared().present({u"A line to share"_s, {}, {}, {}});
-    auto *sheet = window->findChild<QObject *>(u"sheet"_s);
-    if (!QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }))
-        return nullptr;
-    return window;
-}
-
-QQuickItem *TestSharing::option(QQuickWindow *window, const QString &name)
-{
-    auto *sheet = window->findChild<QObject *>(u"sheet"_s);
-    return findItem(sheet->property("contentItem").value<QQuickItem *>(), u"share-"_s + name);
-}
-
-void TestSharing::sheetOffersWhatTheDesktopCanDo_data()
-{
-    QTest::addColumn<bool>("text");
-    QTest::addColumn<bool>("mail");
-    QTest::newRow("mail only") << false << true;
-    QTest::newRow("text only") << true << false;
-}
-
-void TestSharing::sheetOffersWhatTheDesktopCanDo()
-{
-    QFETCH(bool, text);
-    QFETCH(bool, mail);
-    TestEnvironment environment;
-    Sharing::shared().setCanSendTextForTesting(text);
-    Sharing::shared().setCanSendMailForTesting(mail);
-    QQmlEngine engine;
-    const auto shown = showSheet(engine);
-    QQuickWindow *window = shown.get();
-    QVERIFY(window);
-    QCOMPARE(option(window, u"sms"_s)->isVisible(), text);
-    QCOMPARE(option(window, u"mail"_s)->isVisible(), mail);
-    QVERIFY(option(window, u"file"_s)->isVisible());
-}
-
-void TestSharing::saveOpensTheFileDialog()
-{
-    TestEnvironment environment;
-    QQmlEngine engine;
-    const auto shown = showSheet(engine);
-    QQuickWindow *window = shown.get();
-    QVERIFY(window);
-    QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
-    QTRY_VERIFY(window->findChild<QObject *>(u"saveTextDialog"_s));
-    auto *dialog = window->findChild<QObject *>(u"saveTextDialog"_s);
-    QTRY_VERIFY(dialog->property("visible").toBool());
-    QVERIFY(!Alerts::shared().showing());
-}
-
-void TestSharing::missingDialogModuleIsAnAlert()
-{
-    TestEnvironment environment;
-    QTemporaryDir folder;
-    QFile broken(folder.filePath(u"Dialog.qml"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("import Qt.labs.notinstalled\nimport QtQuick\nItem {}\n");
-    broken.close();
-    QQmlEngine engine;
-    const auto shown = showSheet(engine);
-    QQuickWindow *window = shown.get();
-    QVERIFY(window);
-    window->findChild<QObject *>(u"sheet"_s)->setProperty("saveDialogSource", QUrl::fromLocalFile(broken.fileName()));
-    QTest::failOnWarning(QRegularExpression(u"^(?!.*notinstalled).*qml.*"_s));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"notinstalled"_s));
-    QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
-    QTRY_VERIFY(Alerts::shared().showing());
-    QCOMPARE(Alerts::shared().title(), u"Share"_s);
-    QVERIFY(Alerts::shared().message().contains(u"file dialog is not installed"_s));
-    QVERIFY(Sharing::shared().showing()); // the user can still choose another way
-}
-
-void TestSharing::unwritableFileIsAnAlert()
-{
-    TestEnvironment environment;
-    bool completed = true;
-    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}, {}});
-    Sharing::shared().saveToFile(QUrl::fromLocalFile(environment.dataDirectory() + u"/no/such/folder/x.txt"_s));
-    QTRY_VERIFY(Alerts::shared().showing());
-    QCOMPARE(Alerts::shared().title(), u"Share"_s);
-    QVERIFY(Sharing::shared().showing());
-    Sharing::shared().cancel();
-    QVERIFY(!completed);
-}
-
-void TestSharing::mailThatCannotStartIsAnAlert()
-{
-    TestEnvironment environment;
-    std::optional<bool> completed;
-    Sharing::shared().present({u"text"_s, [&](bool done) { completed = done; }, {}, {}});
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"mailto"_s)); // no mail client here
-    Sharing::shared().email();
-    QTRY_VERIFY(Alerts::shared().showing());
-    QCOMPARE(Alerts::shared().title(), u"Sending Email"_s);
-    QCOMPARE(Alerts::shared().message(), u"Email not Setup or Unavailable"_s);
-    QVERIFY(!completed); // nothing done yet: the sheet stays for another choice
-    QVERIFY(Sharing::shared().showing());
-
-    MailClient client;
-    QDesktopServices::setUrlHandler(u"mailto"_s, &client, "open");
-    Sharing::shared().email();
-    QDesktopServices::unsetUrlHandler(u"mailto"_s);
-    QCOMPARE(client.opened.size(), 1);
-    QCOMPARE(client.opened.first().query().contains(u"body=text"_s), true);
-    QCOMPARE(completed, std::optional(true));
-}
 
 QTEST_MAIN(TestSharing)
 #include "tst_sharing.moc"

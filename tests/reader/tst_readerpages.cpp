@@ -19,37 +19,12 @@
 
 using namespace Qt::StringLiterals;
 
-// The readers in the real window: turning pages in each list, the keyboard alone, a large list
-// font, a special day, and a page shared as a picture.
-class TestReaderPages : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void cleanup() { Clock::set({}); }
-    void turnInPageList_data();
-    void turnInPageList();
-    void turnInSearchResults();
-    void unsavedEditsKeepThePage();
-    void eachTapOpensAFreshReader();
-    void keyboardAlone();
-    void largeListFontFitsTheRows();
-    void specialDayListReaderAndBack();
-    void shareSheetOffersThePicture();
-};
-
 namespace {
 const QString longPage = u"A line of the morning\n"_s.repeated(80) + u"Snowdrops in the lane"_s;
 // January 1 and 2, morning and night; the night of the 1st and the morning of the 2nd are favourites.
 const QStringList pages{u"January 1|AM|1|1|1|F|Frost on the gate"_s, u"January 1|PM|1|1|2|T|Lamps along the lane"_s,
                         u"January 2|AM|1|2|3|T|Bread rising"_s, u"January 2|PM|1|2|4|F|The owl at the window"_s,
                         u"February 3|AM|2|3|67|F|"_s + longPage};
-
-QQuickItem *visible(QQuickWindow *window, const QString &name)
-{
-    return findVisibleItem(window->contentItem(), name);
-}
 
 // Left/right slide of a finger across the middle of the text.
 void swipe(QQuickWindow *window, int direction)
@@ -68,7 +43,7 @@ void swipe(QQuickWindow *window, int direction)
 void turn(QQuickWindow *window, const QString &how, int direction)
 {
     if (how == u"button")
-        click(window, visible(window, direction < 0 ? u"PreviousPageButton"_s : u"NextPageButton"_s));
+        click(window, findVisibleItem(window, direction < 0 ? u"PreviousPageButton"_s : u"NextPageButton"_s));
     else if (how == u"key")
         QTest::keyClick(window, direction < 0 ? Qt::Key_Left : Qt::Key_Right);
     else
@@ -119,340 +94,346 @@ bool isA(QQuickItem *item, const char *qmlType)
 }
 }
 
-void TestReaderPages::turnInPageList_data()
+// The readers in the real window: turning pages in each list, the keyboard alone, a large list
+// font, a special day, and a page shared as a picture.
+class TestReaderPages : public QObject
 {
-    QTest::addColumn<QString>("route"); // the cover's button, the list's segment, the row opened
-    QTest::addColumn<QString>("how");
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<QString>("page");    // the page turned to: dt|ampm|month|day|pagenum|favorite
-    QTest::addColumn<int>("listRow");     // its row in the list, back there
-    QTest::addColumn<QString>("arrows");  // enabled after the turn: "<" previous, ">" next
-    QTest::newRow("today, to the night page by the arrow")
-        << u"TodayButton - 0"_s << u"button"_s << 1 << u"January 1|PM|1|1|2|T"_s << 1 << u"<"_s;
-    QTest::newRow("all, across a day by the key")
-        << u"TodayButton segment-All 1"_s << u"key"_s << 1 << u"January 2|AM|1|2|3|T"_s << 2 << u"<>"_s;
-    QTest::newRow("all, back to the first page by a swipe")
-        << u"TodayButton segment-All 1"_s << u"swipe"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << u">"_s;
-    QTest::newRow("mornings skip the nights")
-        << u"GoodMorningButton - 1"_s << u"key"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << u">"_s;
-    QTest::newRow("nights skip the mornings")
-        << u"GoodNightButton - 0"_s << u"swipe"_s << 1 << u"January 2|PM|1|2|4|F"_s << 1 << u"<"_s;
-    QTest::newRow("favourites only") << u"FavoritesButton - 0"_s << u"button"_s << 1 << u"January 2|AM|1|2|3|T"_s << 1 << u"<"_s;
-}
+    Q_OBJECT
 
-void TestReaderPages::turnInPageList()
-{
-    QFETCH(QString, route);
-    QFETCH(QString, how);
-    QFETCH(int, direction);
-    QFETCH(QString, page);
-    QFETCH(int, listRow);
-    QFETCH(QString, arrows);
-    TestEnvironment environment;
-    Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(21, 0)); });
-    // A wallpaper drawn at random, so that a second draw would show.
-    UserDefaults::standard().set(u"useWallpaper"_s, 1);
-    for (int i = 1; i <= 35; ++i)
-        UserDefaults::standard().set(u"Page%1"_s.arg(i), u"true"_s);
-    insertPages(pages);
-    QQmlApplicationEngine engine;
-    const QStringList steps = route.split(u' ');
-    QQuickWindow *window = openReader(engine, steps[0], steps[1] == u"-" ? QString() : steps[1], steps[2].toInt());
-    QVERIFY(window);
-    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    const QUrl wallpaper = visible(window, u"img"_s)->property("source").toUrl();
-    const qint64 reviewsBefore = reviewCount();
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
+    void cleanup() { Clock::set({}); }
 
-    turn(window, how, direction);
-    const QStringList expected = page.split(u'|');
-    const QString composed = u"\nFrom The Larkwells\n %1\n\n%2\n\n%3"_s.arg(expected[1] == u"AM" ? u"Good Morning"_s : u"Good Night"_s,
-                                                                           expected[0], pages.filter(page).first().section(u'|', 6));
-    QTRY_COMPARE(text->property("text").toString(), composed);
-    QCOMPARE(selectedPage(), page);
-    QCOMPARE(Selection::shared().selectedPoemPrayer(), composed);
-    QCOMPARE(reviewCount(), reviewsBefore + 1); // the review rule ran for the new page
-    QCOMPARE(visible(window, u"img"_s)->property("source").toUrl(), wallpaper);
-    QTRY_COMPARE(visible(window, u"FavoriteCheckBox"_s)->property("checkState").toInt(), expected[5] == u"T" ? 1 : 0);
-    QCOMPARE(QString(visible(window, u"PreviousPageButton"_s)->isEnabled() ? u"<"_s : u""_s)
-                 + (visible(window, u"NextPageButton"_s)->isEnabled() ? u">"_s : u""_s),
-             arrows);
+    void turnInPageList_data()
+    {
+        QTest::addColumn<QString>("route"); // the cover's button, the list's segment, the row opened
+        QTest::addColumn<QString>("how");
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<QString>("page");    // the page turned to: dt|ampm|month|day|pagenum|favorite
+        QTest::addColumn<int>("listRow");     // its row in the list, back there
+        QTest::addColumn<QString>("arrows");  // enabled after the turn: "<" previous, ">" next
+        QTest::newRow("today, to the night page by the arrow")
+            << u"TodayButton - 0"_s << u"button"_s << 1 << u"January 1|PM|1|1|2|T"_s << 1 << u"<"_s;
+        QTest::newRow("all, across a day by the key")
+            << u"TodayButton segment-All 1"_s << u"key"_s << 1 << u"January 2|AM|1|2|3|T"_s << 2 << u"<>"_s;
+        QTest::newRow("all, back to the first page by a swipe")
+            << u"TodayButton segment-All 1"_s << u"swipe"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << u">"_s;
+        QTest::newRow("mornings skip the nights")
+            << u"GoodMorningButton - 1"_s << u"key"_s << -1 << u"January 1|AM|1|1|1|F"_s << 0 << u">"_s;
+        QTest::newRow("nights skip the mornings")
+            << u"GoodNightButton - 0"_s << u"swipe"_s << 1 << u"January 2|PM|1|2|4|F"_s << 1 << u"<"_s;
+        QTest::newRow("favourites only") << u"FavoritesButton - 0"_s << u"button"_s << 1 << u"January 2|AM|1|2|3|T"_s << 1 << u"<"_s;
+    }
 
-    // At the end, neither the key nor a swipe goes further.
-    if (arrows != u"<>") {
-        const int beyond = arrows == u">" ? -1 : 1;
-        QTest::keyClick(window, beyond < 0 ? Qt::Key_Left : Qt::Key_Right);
-        swipe(window, beyond);
-        QTest::qWait(100);
+    void turnInPageList()
+    {
+        QFETCH(QString, route);
+        QFETCH(QString, how);
+        QFETCH(int, direction);
+        QFETCH(QString, page);
+        QFETCH(int, listRow);
+        QFETCH(QString, arrows);
+        TestEnvironment environment;
+        Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(21, 0)); });
+        // A wallpaper drawn at random, so that a second draw would show.
+        UserDefaults::standard().set(u"useWallpaper"_s, 1);
+        for (int i = 1; i <= 35; ++i)
+            UserDefaults::standard().set(u"Page%1"_s.arg(i), u"true"_s);
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        const QStringList steps = route.split(u' ');
+        QQuickWindow *window = openReader(engine, steps[0], steps[1] == u"-" ? QString() : steps[1], steps[2].toInt());
+        QVERIFY(window);
+        QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+        const QUrl wallpaper = findVisibleItem(window, u"img"_s)->property("source").toUrl();
+        const qint64 reviewsBefore = reviewCount();
+
+        turn(window, how, direction);
+        const QStringList expected = page.split(u'|');
+        const QString composed = u"\nFrom The Larkwells\n %1\n\n%2\n\n%3"_s.arg(expected[1] == u"AM" ? u"Good Morning"_s : u"Good Night"_s,
+                                                                               expected[0], pages.filter(page).first().section(u'|', 6));
+        QTRY_COMPARE(text->property("text").toString(), composed);
         QCOMPARE(selectedPage(), page);
+        QCOMPARE(Selection::shared().selectedPoemPrayer(), composed);
+        QCOMPARE(reviewCount(), reviewsBefore + 1); // the review rule ran for the new page
+        QCOMPARE(findVisibleItem(window, u"img"_s)->property("source").toUrl(), wallpaper);
+        QTRY_COMPARE(findVisibleItem(window, u"FavoriteCheckBox"_s)->property("checkState").toInt(), expected[5] == u"T" ? 1 : 0);
+        QCOMPARE(QString(findVisibleItem(window, u"PreviousPageButton"_s)->isEnabled() ? u"<"_s : u""_s)
+                     + (findVisibleItem(window, u"NextPageButton"_s)->isEnabled() ? u">"_s : u""_s),
+                 arrows);
+
+        // At the end, neither the key nor a swipe goes further.
+        if (arrows != u"<>") {
+            const int beyond = arrows == u">" ? -1 : 1;
+            QTest::keyClick(window, beyond < 0 ? Qt::Key_Left : Qt::Key_Right);
+            swipe(window, beyond);
+            QTest::qWait(100);
+            QCOMPARE(selectedPage(), page);
+        }
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+        QTRY_COMPARE(findVisibleItem(window, u"table"_s)->property("currentIndex").toInt(), listRow);
     }
-    click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), listRow);
-}
 
-// The list builds its reader before the tap: each one shows the page then chosen, counts one
-// page opening, and goes once it has left.
-void TestReaderPages::eachTapOpensAFreshReader()
-{
-    TestEnvironment environment;
-    Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(9, 0)); });
-    insertPages(pages);
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openReader(engine, u"TodayButton"_s, QString(), 0);
-    QVERIFY(window);
-    QPointer<QQuickItem> first = currentScreen(window);
-    QCOMPARE(first->property("title").toString(), u"Good Morning"_s);
-    click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_VERIFY(!first);
+    // Search, the marked result scrolled into sight, a turn to the next result, a favourite, and back
+    // to the same search.
+    void turnInSearchResults()
+    {
+        TestEnvironment environment;
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"SearchButton"_s, u"SearchTableView"_s);
+        QVERIFY(window);
+        QQuickItem *field = waitForItem(window, u"searchField"_s);
+        QTRY_VERIFY(field->hasActiveFocus()); // the field takes the keyboard on opening
+        click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
+        QTRY_COMPARE(field->property("placeholderText").toString(), u"Search for Poem/Prayer"_s);
+        field->forceActiveFocus();
+        for (const char letter : {'L', 'A', 'N', 'E'})
+            QTest::keyClick(window, letter, Qt::ShiftModifier);
+        QTRY_COMPARE(findVisibleItem(window, u"matchCount"_s)->property("text").toString(), u"2 pages match"_s);
+        click(window, waitForItem(window, u"row-0"_s));
+        QTRY_COMPARE(topPage(window), u"SearchView"_s);
+        QVERIFY(!findVisibleItem(window, u"PreviousPageButton"_s)->isEnabled());
 
-    QTest::qWait(200); // the next reader is built in the frames that follow
-    click(window, waitForItem(window, u"row-1"_s));
-    QTRY_COMPARE(topPage(window), u"View"_s);
-    QCOMPARE(currentScreen(window)->property("title").toString(), u"Good Night"_s);
-    QCOMPARE(waitForItem(window, u"PoemPrayerTextView"_s)->property("text").toString(), Selection::shared().selectedPoemPrayer());
-    QCOMPARE(reviewCount(), 2);
-}
+        // The second result, not the next page of the book; its match far below the first screen.
+        QTest::keyClick(window, Qt::Key_Right);
+        QTRY_COMPARE(selectedPage(), u"February 3|AM|2|3|67|F"_s);
+        QCOMPARE(Selection::shared().selectedSearchText(), u"LANE"_s);
+        QCOMPARE(Selection::shared().selectedPoemPrayer(), u"\n\nFrom The Larkwells\n Good Morning\n\nFebruary 3\n\n"_s + longPage);
+        QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+        QTRY_COMPARE(markedFragments(*text->property("textDocument").value<QQuickTextDocument *>()->textDocument()),
+                     QStringList{u"lane"_s});
+        QTRY_VERIFY(findVisibleItem(window, u"scroller"_s)->property("contentY").toDouble() > 500);
+        QVERIFY(findVisibleItem(window, u"PreviousPageButton"_s)->isEnabled());
+        QVERIFY(!findVisibleItem(window, u"NextPageButton"_s)->isEnabled());
+        click(window, waitForItem(window, u"FavoriteCheckBox"_s));
+        QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).last(), u"T"_s);
 
-// Search, the marked result scrolled into sight, a turn to the next result, a favourite, and back
-// to the same search.
-void TestReaderPages::turnInSearchResults()
-{
-    TestEnvironment environment;
-    insertPages(pages);
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"SearchButton"_s, u"SearchTableView"_s);
-    QVERIFY(window);
-    QQuickItem *field = waitForItem(window, u"searchField"_s);
-    QTRY_VERIFY(field->hasActiveFocus()); // the field takes the keyboard on opening
-    click(window, waitForItem(window, u"segment-Poems/Prayers"_s));
-    QTRY_COMPARE(field->property("placeholderText").toString(), u"Search for Poem/Prayer"_s);
-    field->forceActiveFocus();
-    for (const char letter : {'L', 'A', 'N', 'E'})
-        QTest::keyClick(window, letter, Qt::ShiftModifier);
-    QTRY_COMPARE(visible(window, u"matchCount"_s)->property("text").toString(), u"2 pages match"_s);
-    click(window, waitForItem(window, u"row-0"_s));
-    QTRY_COMPARE(topPage(window), u"SearchView"_s);
-    QVERIFY(!visible(window, u"PreviousPageButton"_s)->isEnabled());
-
-    // The second result, not the next page of the book; its match far below the first screen.
-    QTest::keyClick(window, Qt::Key_Right);
-    QTRY_COMPARE(selectedPage(), u"February 3|AM|2|3|67|F"_s);
-    QCOMPARE(Selection::shared().selectedSearchText(), u"LANE"_s);
-    QCOMPARE(Selection::shared().selectedPoemPrayer(), u"\n\nFrom The Larkwells\n Good Morning\n\nFebruary 3\n\n"_s + longPage);
-    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    QTRY_COMPARE(markedFragments(*text->property("textDocument").value<QQuickTextDocument *>()->textDocument()),
-                 QStringList{u"lane"_s});
-    QTRY_VERIFY(visible(window, u"scroller"_s)->property("contentY").toDouble() > 500);
-    QVERIFY(visible(window, u"PreviousPageButton"_s)->isEnabled());
-    QVERIFY(!visible(window, u"NextPageButton"_s)->isEnabled());
-    click(window, waitForItem(window, u"FavoriteCheckBox"_s));
-    QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).last(), u"T"_s);
-
-    click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
-    QTRY_COMPARE(visible(window, u"table"_s)->property("currentIndex").toInt(), 1);
-    QCOMPARE(field->property("text").toString(), u"LANE"_s);
-    QTRY_VERIFY(visible(window, u"row-1"_s)->property("favoriteChecked").toBool());
-    // Escape empties the field first, then leaves the screen.
-    field->forceActiveFocus();
-    QTest::keyClick(window, Qt::Key_Escape);
-    QTRY_COMPARE(field->property("text").toString(), QString());
-    QCOMPARE(topPage(window), u"SearchTableView"_s);
-    QTest::keyClick(window, Qt::Key_Escape);
-    QTRY_COMPARE(topPage(window), u"CoverView"_s);
-}
-
-// A favourite ticked in the reader shows in the list; typing changes the page: the caret keeps the
-// arrow keys, and the page stays until it is saved.
-void TestReaderPages::unsavedEditsKeepThePage()
-{
-    TestEnvironment environment;
-    insertPages(pages);
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openReader(engine, u"GoodMorningButton"_s, QString(), 0);
-    QVERIFY(window);
-    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    QQuickItem *next = visible(window, u"NextPageButton"_s);
-    QTRY_VERIFY(next->isEnabled());
-    click(window, waitForItem(window, u"FavoriteCheckBox"_s));
-    QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).first(), u"T"_s);
-
-    text->forceActiveFocus();
-    QTest::keyClick(window, Qt::Key_Right);
-    QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s); // the caret moved, the page did not
-    QTest::keyClick(window, 'x');
-    QTRY_VERIFY(!next->isEnabled());
-    click(window, next);
-    QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s);
-
-    click(window, visible(window, u"SaveButton"_s));
-    QTRY_VERIFY(next->isEnabled());
-    click(window, next);
-    QTRY_COMPARE(Selection::shared().selectedDt(), u"January 2"_s);
-    QVERIFY(!text->hasActiveFocus());
-    click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_VERIFY(visible(window, u"row-0"_s)->property("favoriteChecked").toBool());
-}
-
-// The list and the reader without a mouse: the list keeps its place across a reading, the text
-// lets Tab go, Ctrl+plus/minus act as the stepper, Space marks a favourite, the arrows switch
-// segments, Escape and Alt+Left go back.
-void TestReaderPages::keyboardAlone()
-{
-    TestEnvironment environment;
-    QStringList pages;
-    for (int i = 0; i < 60; ++i)
-        pages << u"Day %1|AM|%2|%3|%4|F|Morning %4"_s.arg(i).arg(1 + i / 28).arg(1 + i % 28).arg(2 * i + 1);
-    insertPages(pages);
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
-    QVERIFY(window);
-
-    auto *table = findVisibleItem(window->contentItem(), u"table"_s);
-    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return table->isAncestorOf(item); }));
-    for (int i = 0; i < 40; ++i)
-        QTest::keyClick(window, Qt::Key_Down);
-    QTRY_COMPARE(table->property("currentIndex").toInt(), 40);
-    QTRY_VERIFY(table->property("contentY").toDouble() > 100);
-    const auto topInList = [&](const QString &row) {
-        QQuickItem *item = findVisibleItem(window->contentItem(), row);
-        return item ? item->mapToItem(table, QPointF(0, 0)).y() : -1e9;
-    };
-    const double chosenTop = topInList(u"row-40"_s);
-
-    QTest::keyClick(window, Qt::Key_Return);
-    QTRY_COMPARE(topPage(window), u"View"_s);
-    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    QVERIFY(text->property("text").toString().contains(u"Morning 81"_s));
-    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
-    QTest::keyClick(window, Qt::Key_Tab);
-    QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
-    auto *stepper = findVisibleItem(window->contentItem(), u"FontSizeStepper"_s);
-    const double size = stepper->property("value").toDouble();
-    QTest::keyClick(window, Qt::Key_Plus, Qt::ControlModifier);
-    QTRY_COMPARE(stepper->property("value").toDouble(), size + 1);
-    QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), size + 1);
-    QTest::keyClick(window, Qt::Key_Minus, Qt::ControlModifier);
-    QTRY_COMPARE(stepper->property("value").toDouble(), size);
-
-    QTest::keyClick(window, Qt::Key_Escape);
-    QTRY_COMPARE(topPage(window), u"MainTableView"_s);
-    QTRY_COMPARE(topInList(u"row-40"_s), chosenTop); // where the reader left it
-    auto *chosen = findVisibleItem(window->contentItem(), u"row-40"_s);
-    QVERIFY(chosen);
-    const QRectF shown = chosen->mapRectToItem(table, chosen->boundingRect());
-    QVERIFY(shown.top() >= 0 && shown.bottom() <= table->height());
-
-    QVERIFY(tabUntil(window, [](QQuickItem *item) { return isA(item, "FavoriteBox"); }));
-    QQuickItem *box = window->activeFocusItem();
-    QVERIFY(chosen->isAncestorOf(box)); // the chosen row's own box, not the first row's
-    QTest::keyClick(window, Qt::Key_Space);
-    QTRY_COMPARE(box->property("checkState").toInt(), 1);
-    FetchRequest favorites = PoemPrayer::fetchRequest();
-    favorites.predicate = Predicate::equals(u"favorite"_s, u"T"_s);
-    QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(favorites).size(), 1);
-
-    auto *segments = findVisibleItem(window->contentItem(), u"segment"_s);
-    const int segment = segments->property("currentIndex").toInt();
-    const int rows = table->property("count").toInt();
-    QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == segments; }));
-    QTest::keyClick(window, Qt::Key_Right); // AM to PM: no night pages here
-    QTRY_COMPARE(segments->property("currentIndex").toInt(), segment + 1);
-    QTRY_VERIFY(table->property("count").toInt() != rows);
-
-    QTest::keyClick(window, Qt::Key_Left, Qt::AltModifier);
-    QTRY_COMPARE(topPage(window), u"CoverView"_s);
-}
-
-// The largest list font on a small phone: the rows grow to hold their labels.
-void TestReaderPages::largeListFontFitsTheRows()
-{
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
-    insertPages({u"September 30|AM|9|30|547|F|Morning"_s});
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
-    QVERIFY(window);
-    window->resize(360, 640);
-    QQuickItem *row = waitForItem(window, u"row-0"_s);
-    QVERIFY(row);
-    QTRY_COMPARE(row->width(), findVisibleItem(window->contentItem(), u"table"_s)->width());
-    for (const QString &name : {u"DateLabel"_s, u"PageWords"_s}) {
-        QQuickItem *label = findVisibleItem(row, name);
-        QVERIFY2(label, qPrintable(name));
-        const QRectF inRow = label->mapRectToItem(row, label->boundingRect());
-        QVERIFY2(inRow.top() >= 0 && inRow.bottom() <= row->height() && inRow.right() <= row->width(), qPrintable(name));
-        QVERIFY2(!label->property("truncated").toBool(), qPrintable(name)); // every word kept
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_COMPARE(topPage(window), u"SearchTableView"_s);
+        QTRY_COMPARE(findVisibleItem(window, u"table"_s)->property("currentIndex").toInt(), 1);
+        QCOMPARE(field->property("text").toString(), u"LANE"_s);
+        QTRY_VERIFY(findVisibleItem(window, u"row-1"_s)->property("favoriteChecked").toBool());
+        // Escape empties the field first, then leaves the screen.
+        field->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_COMPARE(field->property("text").toString(), QString());
+        QCOMPARE(topPage(window), u"SearchTableView"_s);
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_COMPARE(topPage(window), u"CoverView"_s);
     }
-}
 
-// Cover → Special Days (first visit seeds) → a day → share → back, in the real pages.
-void TestReaderPages::specialDayListReaderAndBack()
-{
-    TestEnvironment environment;
-    environment.addBundleFile(u"SpecialDays.txt"_s,
-                              "[SPECIALDAYS]\r\nPM^Candlemas^Light kept@#@for the dark\r\nAM^Candlemas^Morning light\r\n");
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = openFromCover(engine, u"SpecialDaysButton"_s, u"SpecialDaysTableView"_s);
-    QVERIFY(window);
-    QQuickItem *nightRow = waitForItem(window, u"row-1"_s);
-    QVERIFY(nightRow && waitForItem(window, u"section-Morning"_s) && waitForItem(window, u"section-Night"_s));
-    QCOMPARE(nightRow->property("dayText").toString(), u"Good Night - Candlemas"_s);
+    // A favourite ticked in the reader shows in the list; typing changes the page: the caret keeps the
+    // arrow keys, and the page stays until it is saved.
+    void unsavedEditsKeepThePage()
+    {
+        TestEnvironment environment;
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openReader(engine, u"GoodMorningButton"_s, QString(), 0);
+        QVERIFY(window);
+        QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+        QQuickItem *next = findVisibleItem(window, u"NextPageButton"_s);
+        QTRY_VERIFY(next->isEnabled());
+        click(window, waitForItem(window, u"FavoriteCheckBox"_s));
+        QTRY_COMPARE(storedRows<PoemPrayer>({u"favorite"_s}).first(), u"T"_s);
 
-    click(window, nightRow);
-    QTRY_COMPARE(topPage(window), u"EditSpecialDaysView"_s);
-    QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-    QVERIFY(text);
-    QCOMPARE(text->property("text").toString(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark"_s);
+        text->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Right);
+        QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s); // the caret moved, the page did not
+        QTest::keyClick(window, 'x');
+        QTRY_VERIFY(!next->isEnabled());
+        click(window, next);
+        QCOMPARE(Selection::shared().selectedDt(), u"January 1"_s);
 
-    // Sharing hands over the text as it stands, edits included, with no text-message gate.
-    Sharing::shared().setCanSendTextForTesting(false);
-    text->setProperty("text", text->property("text").toString() + u"\nAmen"_s);
-    click(window, waitForItem(window, u"ShareButton"_s));
-    QTRY_VERIFY(Sharing::shared().showing());
-    QCOMPARE(Sharing::shared().text(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark\nAmen"_s);
-    Sharing::shared().cancel();
-    Sharing::shared().setCanSendTextForTesting(std::nullopt);
-
-    click(window, waitForItem(window, u"backButton"_s));
-    QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
-}
-
-void TestReaderPages::shareSheetOffersThePicture()
-{
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
-    QVERIFY(window);
-    Selection::shared().setSelectedAmpm(u"AM"_s);
-    Selection::shared().setSelectedDt(u"May 2"_s);
-    Selection::shared().setSelectedPoemPrayer(u"Dew on the gate\nand on the grass,\nthe wren is up before the sun."_s);
-    Navigator::shared().performSegue(u"ViewPoemSegue"_s);
-    QTRY_COMPARE(topPage(window), u"View"_s);
-
-    click(window, waitForItem(window, u"FacebookShareButton"_s));
-    QQuickItem *picture = waitForItem(window, u"share-picture"_s);
-    QVERIFY(picture);
-    QCOMPARE(picture->property("text").toString(), u"Share as Picture"_s);
-    environment.logLines.clear();
-    click(window, picture);
-    QTRY_VERIFY(Sharing::shared().sharesFile());
-    QCOMPARE(Sharing::shared().fileName(), u"May 2 Good Morning.png"_s);
-    QCOMPARE(environment.logLines.value(0), u"completed"_s);
-    QVERIFY(waitForItem(window, u"share-savecopy"_s) && !visible(window, u"share-picture"_s));
-    const QImage shared(QDir::temp().filePath(Sharing::shared().fileName()));
-    QCOMPARE(shared.width(), PagePicture::width);
-    int ink = 0; // the text drawn in black
-    for (int y = 0; y < shared.height(); ++y) {
-        for (int x = 0; x < shared.width(); ++x)
-            ink += qGray(shared.pixel(x, y)) < 60;
+        click(window, findVisibleItem(window, u"SaveButton"_s));
+        QTRY_VERIFY(next->isEnabled());
+        click(window, next);
+        QTRY_COMPARE(Selection::shared().selectedDt(), u"January 2"_s);
+        QVERIFY(!text->hasActiveFocus());
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+        QTRY_VERIFY(findVisibleItem(window, u"row-0"_s)->property("favoriteChecked").toBool());
     }
-    QVERIFY2(ink > 5000, qPrintable(QString::number(ink)));
-    Sharing::shared().cancel();
-}
+
+    // The list builds its reader before the tap: each one shows the page then chosen, counts one
+    // page opening, and goes once it has left.
+    void eachTapOpensAFreshReader()
+    {
+        TestEnvironment environment;
+        Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(9, 0)); });
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openReader(engine, u"TodayButton"_s, QString(), 0);
+        QVERIFY(window);
+        QPointer<QQuickItem> first = currentScreen(window);
+        QCOMPARE(first->property("title").toString(), u"Good Morning"_s);
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+        QTRY_VERIFY(!first);
+
+        QTest::qWait(200); // the next reader is built in the frames that follow
+        click(window, waitForItem(window, u"row-1"_s));
+        QTRY_COMPARE(topPage(window), u"View"_s);
+        QCOMPARE(currentScreen(window)->property("title").toString(), u"Good Night"_s);
+        QCOMPARE(waitForItem(window, u"PoemPrayerTextView"_s)->property("text").toString(), Selection::shared().selectedPoemPrayer());
+        QCOMPARE(reviewCount(), 2);
+    }
+
+    // The list and the reader without a mouse: the list keeps its place across a reading, the text
+    // lets Tab go, Ctrl+plus/minus act as the stepper, Space marks a favourite, the arrows switch
+    // segments, Escape and Alt+Left go back.
+    void keyboardAlone()
+    {
+        TestEnvironment environment;
+        QStringList pages;
+        for (int i = 0; i < 60; ++i)
+            pages << u"Day %1|AM|%2|%3|%4|F|Morning %4"_s.arg(i).arg(1 + i / 28).arg(1 + i % 28).arg(2 * i + 1);
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+        QVERIFY(window);
+
+        auto *table = findVisibleItem(window, u"table"_s);
+        QVERIFY(tabUntil(window, [&](QQuickItem *item) { return table->isAncestorOf(item); }));
+        for (int i = 0; i < 40; ++i)
+            QTest::keyClick(window, Qt::Key_Down);
+        QTRY_COMPARE(table->property("currentIndex").toInt(), 40);
+        QTRY_VERIFY(table->property("contentY").toDouble() > 100);
+        const auto topInList = [&](const QString &row) {
+            QQuickItem *item = findVisibleItem(window, row);
+            return item ? item->mapToItem(table, QPointF(0, 0)).y() : -1e9;
+        };
+        const double chosenTop = topInList(u"row-40"_s);
+
+        QTest::keyClick(window, Qt::Key_Return);
+        QTRY_COMPARE(topPage(window), u"View"_s);
+        QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+        QVERIFY(text->property("text").toString().contains(u"Morning 81"_s));
+        QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
+        QTest::keyClick(window, Qt::Key_Tab);
+        QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
+        auto *stepper = findVisibleItem(window, u"FontSizeStepper"_s);
+        const double size = stepper->property("value").toDouble();
+        QTest::keyClick(window, Qt::Key_Plus, Qt::ControlModifier);
+        QTRY_COMPARE(stepper->property("value").toDouble(), size + 1);
+        QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), size + 1);
+        QTest::keyClick(window, Qt::Key_Minus, Qt::ControlModifier);
+        QTRY_COMPARE(stepper->property("value").toDouble(), size);
+
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+        QTRY_COMPARE(topInList(u"row-40"_s), chosenTop); // where the reader left it
+        auto *chosen = findVisibleItem(window, u"row-40"_s);
+        QVERIFY(chosen);
+        const QRectF shown = chosen->mapRectToItem(table, chosen->boundingRect());
+        QVERIFY(shown.top() >= 0 && shown.bottom() <= table->height());
+
+        QVERIFY(tabUntil(window, [](QQuickItem *item) { return isA(item, "FavoriteBox"); }));
+        QQuickItem *box = window->activeFocusItem();
+        QVERIFY(chosen->isAncestorOf(box)); // the chosen row's own box, not the first row's
+        QTest::keyClick(window, Qt::Key_Space);
+        QTRY_COMPARE(box->property("checkState").toInt(), 1);
+        FetchRequest favorites = PoemPrayer::fetchRequest();
+        favorites.predicate = Predicate::equals(u"favorite"_s, u"T"_s);
+        QTRY_COMPARE(loadedContainer()->viewContext().fetch<PoemPrayer>(favorites).size(), 1);
+
+        auto *segments = findVisibleItem(window, u"segment"_s);
+        const int segment = segments->property("currentIndex").toInt();
+        const int rows = table->property("count").toInt();
+        QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == segments; }));
+        QTest::keyClick(window, Qt::Key_Right); // AM to PM: no night pages here
+        QTRY_COMPARE(segments->property("currentIndex").toInt(), segment + 1);
+        QTRY_VERIFY(table->property("count").toInt() != rows);
+
+        QTest::keyClick(window, Qt::Key_Left, Qt::AltModifier);
+        QTRY_COMPARE(topPage(window), u"CoverView"_s);
+    }
+
+    // The largest list font on a small phone: the rows grow to hold their labels.
+    void largeListFontFitsTheRows()
+    {
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"ListFontSize"_s, 30.0);
+        insertPages({u"September 30|AM|9|30|547|F|Morning"_s});
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+        QVERIFY(window);
+        window->resize(360, 640);
+        QQuickItem *row = waitForItem(window, u"row-0"_s);
+        QVERIFY(row);
+        QTRY_COMPARE(row->width(), findVisibleItem(window, u"table"_s)->width());
+        for (const QString &name : {u"DateLabel"_s, u"PageWords"_s}) {
+            QQuickItem *label = findVisibleItem(row, name);
+            QVERIFY2(label, qPrintable(name));
+            const QRectF inRow = label->mapRectToItem(row, label->boundingRect());
+            QVERIFY2(inRow.top() >= 0 && inRow.bottom() <= row->height() && inRow.right() <= row->width(), qPrintable(name));
+            QVERIFY2(!label->property("truncated").toBool(), qPrintable(name)); // every word kept
+        }
+    }
+
+    // Cover → Special Days (first visit seeds) → a day → share → back, in the real pages.
+    void specialDayListReaderAndBack()
+    {
+        TestEnvironment environment;
+        environment.addBundleFile(u"SpecialDays.txt"_s,
+                                  "[SPECIALDAYS]\r\nPM^Candlemas^Light kept@#@for the dark\r\nAM^Candlemas^Morning light\r\n");
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"SpecialDaysButton"_s, u"SpecialDaysTableView"_s);
+        QVERIFY(window);
+        QQuickItem *nightRow = waitForItem(window, u"row-1"_s);
+        QVERIFY(nightRow && waitForItem(window, u"section-Morning"_s) && waitForItem(window, u"section-Night"_s));
+        QCOMPARE(nightRow->property("dayText").toString(), u"Good Night - Candlemas"_s);
+
+        click(window, nightRow);
+        QTRY_COMPARE(topPage(window), u"EditSpecialDaysView"_s);
+        QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+        QVERIFY(text);
+        QCOMPARE(text->property("text").toString(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark"_s);
+
+        // Sharing hands over the text as it stands, edits included, with no text-message gate.
+        Sharing::shared().setCanSendTextForTesting(false);
+        text->setProperty("text", text->property("text").toString() + u"\nAmen"_s);
+        click(window, waitForItem(window, u"ShareButton"_s));
+        QTRY_VERIFY(Sharing::shared().showing());
+        QCOMPARE(Sharing::shared().text(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark\nAmen"_s);
+        Sharing::shared().cancel();
+        Sharing::shared().setCanSendTextForTesting(std::nullopt);
+
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_COMPARE(topPage(window), u"SpecialDaysTableView"_s);
+    }
+
+    void shareSheetOffersThePicture()
+    {
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        Selection::shared().setSelectedAmpm(u"AM"_s);
+        Selection::shared().setSelectedDt(u"May 2"_s);
+        Selection::shared().setSelectedPoemPrayer(u"Dew on the gate\nand on the grass,\nthe wren is up before the sun."_s);
+        Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+        QTRY_COMPARE(topPage(window), u"View"_s);
+
+        click(window, waitForItem(window, u"FacebookShareButton"_s));
+        QQuickItem *picture = waitForItem(window, u"share-picture"_s);
+        QVERIFY(picture);
+        QCOMPARE(picture->property("text").toString(), u"Share as Picture"_s);
+        environment.logLines.clear();
+        click(window, picture);
+        QTRY_VERIFY(Sharing::shared().sharesFile());
+        QCOMPARE(Sharing::shared().fileName(), u"May 2 Good Morning.png"_s);
+        QCOMPARE(environment.logLines.value(0), u"completed"_s);
+        QVERIFY(waitForItem(window, u"share-savecopy"_s) && !findVisibleItem(window, u"share-picture"_s));
+        const QImage shared(QDir::temp().filePath(Sharing::shared().fileName()));
+        QCOMPARE(shared.width(), PagePicture::width);
+        const int ink = countPixels(shared, [](QRgb p) { return qGray(p) < 60; }); // the text drawn in black
+        QVERIFY2(ink > 5000, qPrintable(QString::number(ink)));
+        Sharing::shared().cancel();
+    }
+};
 
 QTEST_MAIN(TestReaderPages)
 #include "tst_readerpages.moc"

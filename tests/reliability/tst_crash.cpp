@@ -215,138 +215,132 @@ class TestCrash : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void killedWorkerLosesNoAcknowledgedSave();
-    void terminationSignalsFinishTheSave_data();
-    void terminationSignalsFinishTheSave();
-    void fullDiskFailsTheSaveAndKeepsEarlierData_data();
-    void fullDiskFailsTheSaveAndKeepsEarlierData();
-};
-
-// LARKWELLS_CRASH_KILLS sets the number of kills (a longer run than the suite's).
-void TestCrash::killedWorkerLosesNoAcknowledgedSave()
-{
-    TestEnvironment environment;
-    const QString directory = environment.dataDirectory();
-    seedPages();
-    const int kills = qEnvironmentVariableIsSet("LARKWELLS_CRASH_KILLS") ? qEnvironmentVariableIntValue("LARKWELLS_CRASH_KILLS") : 200;
-    QRandomGenerator random(QRandomGenerator::global()->generate());
-    QProcess worker;
-    worker.start(QStringLiteral(STORE_WORKER_PATH), {u"random"_s, directory});
-    Expected expected;
-    int acknowledged = 0, inFlight = 0, landed = 0;
-    for (int kill = 0; kill < kills; ++kill) {
-        worker.write(u"run %1 %2\n"_s.arg(random.generate()).arg(qint64(kill + 1) * 1000000).toUtf8());
-        QByteArray seen; // each run reports from its "ready" line to "gone"
-        const QByteArray ready = waitForLine(worker, seen, "ready ");
-        QVERIFY2(!ready.isEmpty(), worker.readAllStandardError().constData());
-        QTest::qSleep(int(random.bounded(20)));
-        QCOMPARE(::kill(pid_t(ready.mid(6).toLongLong()), SIGKILL), 0);
-        QVERIFY(!waitForLine(worker, seen, "gone").isEmpty());
-
-        const Report report = readReport(seen);
-        acknowledged += report.saves;
-        for (const QString &line : report.acknowledged)
-            expected.apply(line);
-        Expected withPending = expected;
-        for (const QString &line : report.pending)
-            withPending.apply(line);
-        inFlight += !report.pending.isEmpty();
-
-        const StoreReader store(directory);
-        QCOMPARE(store.integrity(), QStringList{u"ok"_s});
-        const QString before = store.difference(expected) + preferencesDifference(directory, expected);
-        if (before.isEmpty())
-            continue;
-        // Then the save in flight must have landed whole.
-        const QString after = store.difference(withPending) + preferencesDifference(directory, withPending);
-        QVERIFY2(after.isEmpty(), qPrintable(u"after kill %1: %2 / %3"_s.arg(kill).arg(before, after)));
-        expected = withPending;
-        ++landed;
-    }
-    worker.closeWriteChannel();
-    QVERIFY(worker.waitForFinished(30000));
-    qInfo("%d kills survived; saves acknowledged: %d; kills during a save: %d, of which the save had landed: %d",
-          kills, acknowledged, inFlight, landed);
-}
-
-void TestCrash::terminationSignalsFinishTheSave_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::newRow("SIGTERM") << SIGTERM;
-    QTest::newRow("SIGINT") << SIGINT;
-}
-
-// Every note the worker began is in the store after the signal: the save in progress returns,
-// and the termination path saves the note left unsaved.
-void TestCrash::terminationSignalsFinishTheSave()
-{
-    QFETCH(int, signal);
-    TestEnvironment environment;
-    const QString directory = environment.dataDirectory();
-    seedPages();
-    Expected expected;
-    for (int round = 0; round < 5; ++round) {
+    // LARKWELLS_CRASH_KILLS sets the number of kills (a longer run than the suite's).
+    void killedWorkerLosesNoAcknowledgedSave()
+    {
+        TestEnvironment environment;
+        const QString directory = environment.dataDirectory();
+        seedPages();
+        const int kills = qEnvironmentVariableIsSet("LARKWELLS_CRASH_KILLS") ? qEnvironmentVariableIntValue("LARKWELLS_CRASH_KILLS") : 200;
+        QRandomGenerator random(QRandomGenerator::global()->generate());
         QProcess worker;
-        QVERIFY(startWorker(worker, {u"term"_s, directory, QString::number((round + 1) * 1000000)}));
-        QVERIFY(!worker.waitForFinished(int(QRandomGenerator::global()->bounded(5, 80))));
-        ::kill(pid_t(worker.processId()), signal);
-        QVERIFY(worker.waitForFinished(30000));
-        QCOMPARE(worker.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(worker.exitCode(), 0);
-        for (const QString &line : QString::fromUtf8(worker.readAllStandardOutput()).split(u'\n')) {
-            if (line.startsWith(u"begin "))
+        worker.start(QStringLiteral(STORE_WORKER_PATH), {u"random"_s, directory});
+        Expected expected;
+        int acknowledged = 0, inFlight = 0, landed = 0;
+        for (int kill = 0; kill < kills; ++kill) {
+            worker.write(u"run %1 %2\n"_s.arg(random.generate()).arg(qint64(kill + 1) * 1000000).toUtf8());
+            QByteArray seen; // each run reports from its "ready" line to "gone"
+            const QByteArray ready = waitForLine(worker, seen, "ready ");
+            QVERIFY2(!ready.isEmpty(), worker.readAllStandardError().constData());
+            QTest::qSleep(int(random.bounded(20)));
+            QCOMPARE(::kill(pid_t(ready.mid(6).toLongLong()), SIGKILL), 0);
+            QVERIFY(!waitForLine(worker, seen, "gone").isEmpty());
+
+            const Report report = readReport(seen);
+            acknowledged += report.saves;
+            for (const QString &line : report.acknowledged)
                 expected.apply(line);
+            Expected withPending = expected;
+            for (const QString &line : report.pending)
+                withPending.apply(line);
+            inFlight += !report.pending.isEmpty();
+
+            const StoreReader store(directory);
+            QCOMPARE(store.integrity(), QStringList{u"ok"_s});
+            const QString before = store.difference(expected) + preferencesDifference(directory, expected);
+            if (before.isEmpty())
+                continue;
+            // Then the save in flight must have landed whole.
+            const QString after = store.difference(withPending) + preferencesDifference(directory, withPending);
+            QVERIFY2(after.isEmpty(), qPrintable(u"after kill %1: %2 / %3"_s.arg(kill).arg(before, after)));
+            expected = withPending;
+            ++landed;
         }
+        worker.closeWriteChannel();
+        QVERIFY(worker.waitForFinished(30000));
+        qInfo("%d kills survived; saves acknowledged: %d; kills during a save: %d, of which the save had landed: %d",
+              kills, acknowledged, inFlight, landed);
+    }
+
+    void terminationSignalsFinishTheSave_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGINT") << SIGINT;
+    }
+
+    // Every note the worker began is in the store after the signal: the save in progress returns,
+    // and the termination path saves the note left unsaved.
+    void terminationSignalsFinishTheSave()
+    {
+        QFETCH(int, signal);
+        TestEnvironment environment;
+        const QString directory = environment.dataDirectory();
+        seedPages();
+        Expected expected;
+        for (int round = 0; round < 5; ++round) {
+            QProcess worker;
+            QVERIFY(startWorker(worker, {u"term"_s, directory, QString::number((round + 1) * 1000000)}));
+            QVERIFY(!worker.waitForFinished(int(QRandomGenerator::global()->bounded(5, 80))));
+            ::kill(pid_t(worker.processId()), signal);
+            QVERIFY(worker.waitForFinished(30000));
+            QCOMPARE(worker.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(worker.exitCode(), 0);
+            for (const QString &line : QString::fromUtf8(worker.readAllStandardOutput()).split(u'\n')) {
+                if (line.startsWith(u"begin "))
+                    expected.apply(line);
+            }
+            const StoreReader store(directory);
+            QCOMPARE(store.integrity(), QStringList{u"ok"_s});
+            QCOMPARE(store.difference(expected), QString());
+        }
+        QVERIFY(expected.notes.size() > 5);
+    }
+
+    void fullDiskFailsTheSaveAndKeepsEarlierData_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("store") << u"full"_s << u"Unresolved error "_s;
+        QTest::newRow("preferences") << u"fullpref"_s << u"Fatal error: cannot write the preferences file "_s;
+    }
+
+    void fullDiskFailsTheSaveAndKeepsEarlierData()
+    {
+        QFETCH(QString, mode);
+        QFETCH(QString, failure);
+        TestEnvironment environment;
+        const QString directory = environment.dataDirectory();
+        seedPages();
+        Expected expected;
+        expected.apply(u"begin note+ 7"_s);
+        expected.apply(u"begin pref FontName Before"_s);
+        fillNote(AppDelegate::shared().viewContext().insertNewObject<Notes>(), 7);
+        QVERIFY(!AppDelegate::shared().viewContext().save());
+        Preferences::write(PreferenceKeys::FontName, u"Before"_s);
+        AppDelegate::shared().reset();
+
+        QProcess worker;
+        const qint64 limit = QFileInfo(storeFile(directory)).size() + 65536;
+        QVERIFY(startWorker(worker, {mode, directory, QString::number(limit)}));
+        QVERIFY(worker.waitForFinished(30000));
+        const QString error = QString::fromUtf8(worker.readAllStandardError());
+        QCOMPARE(worker.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(worker.exitCode(), EXIT_FAILURE);
+        QVERIFY2(error.startsWith(failure), qPrintable(error));
+        QVERIFY2(error.contains(directory), qPrintable(error));
+        QVERIFY(!worker.readAllStandardOutput().contains("survived"));
+
+        // The next start opens normally and finds what was there before.
+        QCOMPARE(AppDelegate::shared().viewContext().fetch<Notes>(Notes::fetchRequest()).size(), 1);
+        AppDelegate::shared().reset();
         const StoreReader store(directory);
         QCOMPARE(store.integrity(), QStringList{u"ok"_s});
         QCOMPARE(store.difference(expected), QString());
+        QCOMPARE(preferencesDifference(directory, expected), QString());
+        QCOMPARE(QDir(directory).entryList({u"UserDefaults*"_s}, QDir::Files), QStringList{u"UserDefaults.json"_s});
     }
-    QVERIFY(expected.notes.size() > 5);
-}
-
-void TestCrash::fullDiskFailsTheSaveAndKeepsEarlierData_data()
-{
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QString>("failure");
-    QTest::newRow("store") << u"full"_s << u"Unresolved error "_s;
-    QTest::newRow("preferences") << u"fullpref"_s << u"Fatal error: cannot write the preferences file "_s;
-}
-
-void TestCrash::fullDiskFailsTheSaveAndKeepsEarlierData()
-{
-    QFETCH(QString, mode);
-    QFETCH(QString, failure);
-    TestEnvironment environment;
-    const QString directory = environment.dataDirectory();
-    seedPages();
-    Expected expected;
-    expected.apply(u"begin note+ 7"_s);
-    expected.apply(u"begin pref FontName Before"_s);
-    fillNote(AppDelegate::shared().viewContext().insertNewObject<Notes>(), 7);
-    QVERIFY(!AppDelegate::shared().viewContext().save());
-    Preferences::write(PreferenceKeys::FontName, u"Before"_s);
-    AppDelegate::shared().reset();
-
-    QProcess worker;
-    const qint64 limit = QFileInfo(storeFile(directory)).size() + 65536;
-    QVERIFY(startWorker(worker, {mode, directory, QString::number(limit)}));
-    QVERIFY(worker.waitForFinished(30000));
-    const QString error = QString::fromUtf8(worker.readAllStandardError());
-    QCOMPARE(worker.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(worker.exitCode(), EXIT_FAILURE);
-    QVERIFY2(error.startsWith(failure), qPrintable(error));
-    QVERIFY2(error.contains(directory), qPrintable(error));
-    QVERIFY(!worker.readAllStandardOutput().contains("survived"));
-
-    // The next start opens normally and finds what was there before.
-    QCOMPARE(AppDelegate::shared().viewContext().fetch<Notes>(Notes::fetchRequest()).size(), 1);
-    AppDelegate::shared().reset();
-    const StoreReader store(directory);
-    QCOMPARE(store.integrity(), QStringList{u"ok"_s});
-    QCOMPARE(store.difference(expected), QString());
-    QCOMPARE(preferencesDifference(directory, expected), QString());
-    QCOMPARE(QDir(directory).entryList({u"UserDefaults*"_s}, QDir::Files), QStringList{u"UserDefaults.json"_s});
-}
+};
 
 QTEST_GUILESS_MAIN(TestCrash)
 #include "tst_crash.moc"

@@ -6,29 +6,13 @@
 #include "UserDefaults.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 enum class Damage { Truncated, ZeroLength, NotSqlite, FutureVersion, ReadOnly };
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
 
 // A store with enough pages to fill many database pages, closed.
 void writeStore()
@@ -44,23 +28,15 @@ void damage(const QString &path, Damage how)
 {
     switch (how) {
     case Damage::Truncated: {
-        const QByteArray bytes = contentsOf(path);
-        writeFile(path, bytes.left(bytes.size() / 2));
+        const QByteArray bytes = readFile(path);
+        QVERIFY(writeFile(path, bytes.left(bytes.size() / 2)));
         break;
     }
-    case Damage::ZeroLength: writeFile(path, {}); break;
-    case Damage::NotSqlite: writeFile(path, "{\"a text file\": \"placed where the store should be\"}\n"); break;
-    case Damage::FutureVersion: {
-        {
-            QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"damage"_s);
-            database.setDatabaseName(path);
-            QVERIFY(database.open());
-            QSqlQuery(database).exec(u"PRAGMA user_version = 99"_s);
-            QSqlQuery(database).exec(u"PRAGMA journal_mode = DELETE"_s);
-        }
-        QSqlDatabase::removeDatabase(u"damage"_s);
+    case Damage::ZeroLength: QVERIFY(writeFile(path, {})); break;
+    case Damage::NotSqlite: QVERIFY(writeFile(path, "{\"a text file\": \"placed where the store should be\"}\n")); break;
+    case Damage::FutureVersion:
+        QCOMPARE(sqlRun(path, {u"PRAGMA user_version = 99"_s, u"PRAGMA journal_mode = DELETE"_s}), QStringList{u"delete"_s});
         break;
-    }
     case Damage::ReadOnly: QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther); break;
     }
 }
@@ -71,104 +47,98 @@ class TestDamaged : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void damagedStoreStopsAndIsKept_data();
-    void damagedStoreStopsAndIsKept();
-    void damagedPreferencesAreKept_data();
-    void damagedPreferencesAreKept();
-    void interruptedFirstStartIsBuiltAgain();
+    void damagedStoreStopsAndIsKept_data()
+    {
+        QTest::addColumn<int>("how");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("truncated") << int(Damage::Truncated) << u"Unresolved error database disk image is malformed"_s;
+        QTest::newRow("zero-length") << int(Damage::ZeroLength) << u"Unresolved error The store file is empty."_s;
+        QTest::newRow("not SQLite") << int(Damage::NotSqlite) << u"Unresolved error file is not a database"_s;
+        QTest::newRow("future version") << int(Damage::FutureVersion) << u"Unresolved error The store was written by a newer version"_s;
+        QTest::newRow("read-only") << int(Damage::ReadOnly) << u"Unresolved error The store file is read-only."_s;
+    }
+
+    void damagedStoreStopsAndIsKept()
+    {
+        QFETCH(int, how);
+        QFETCH(QString, reason);
+        TestEnvironment environment;
+        const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
+        writeStore();
+        damage(path, Damage(how));
+        const QByteArray bytes = readFile(path);
+        const QDateTime modified = QFileInfo(path).lastModified();
+        QTest::qSleep(20); // a write would show in the modification time
+
+        const QString message = fatalStop([] { AppDelegate::shared().viewContext(); });
+        QVERIFY2(message.startsWith(reason), qPrintable(message));
+        QVERIFY2(message.contains(u", {"_s) && message.contains(path), qPrintable(message));
+        QCOMPARE(readFile(path), bytes);
+        QCOMPARE(QFileInfo(path).lastModified(), modified);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void damagedPreferencesAreKept_data()
+    {
+        const QByteArray valid = R"({"FontName": {"type": "string", "value": "Georgia"}, "useWallpaper": {"type": "integer", "value": 1}})";
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("fatal");
+        QTest::addColumn<bool>("keepsWallpaper"); // the readable entry still reads
+        QTest::newRow("truncated") << valid.left(valid.size() - 9) << u"Preferences file unreadable, kept as "_s << false << false;
+        QTest::newRow("not JSON") << QByteArray("FontName=Georgia\n") << u"Preferences file unreadable, kept as "_s << false << false;
+        QTest::newRow("JSON array") << QByteArray("[1, 2]") << u"Preferences file unreadable, kept as "_s << false << false;
+        QTest::newRow("entry type and value disagree")
+            << QByteArray(R"({"FontName": {"type": "integer", "value": "Georgia"}, "useWallpaper": {"type": "integer", "value": 1}})")
+            << u"Preferences: ignored malformed entry FontName, file kept as "_s << false << true;
+        QTest::newRow("value of the wrong type for the key")
+            << QByteArray(R"({"FontName": {"type": "integer", "value": 12}, "useWallpaper": {"type": "integer", "value": 1}})")
+            << u"Fatal error: the setting \"FontName\" holds a value that is not "_s << true << true;
+    }
+
+    // Unreadable files and entries are kept aside with their bytes; a readable value of the wrong
+    // type stops at the first read and leaves the file as it is.
+    void damagedPreferencesAreKept()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, message);
+        QFETCH(bool, fatal);
+        QFETCH(bool, keepsWallpaper);
+        TestEnvironment environment;
+        const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
+        QVERIFY(writeFile(path, bytes));
+        UserDefaults::setStandardDirectory(environment.dataDirectory());
+
+        QString stop;
+        try {
+            QCOMPARE(Preferences::stringOrAbsent(PreferenceKeys::FontName), u"Arial"_s);
+        } catch (const FatalErrorException &error) {
+            stop = error.message();
+        }
+        QCOMPARE(Preferences::integerOrAbsent(PreferenceKeys::useWallpaper), keepsWallpaper ? 1 : 0);
+        const QString seen = fatal ? stop : environment.logLines.join(u'\n');
+        QVERIFY2(seen.startsWith(message), qPrintable(seen));
+        if (fatal) {
+            QCOMPARE(readFile(path), bytes);
+            return;
+        }
+        QVERIFY2(seen.endsWith(path + u".damaged"_s), qPrintable(seen));
+        Preferences::write(PreferenceKeys::ReaderFontSize, 20.0);
+        QCOMPARE(readFile(path + u".damaged"_s), bytes);
+        QCOMPARE(UserDefaults(path).doubleForKey(u"ReaderFontSize"_s), 20.0);
+    }
+
+    // A first start killed while building the store leaves only the half-made file beside it.
+    void interruptedFirstStartIsBuiltAgain()
+    {
+        TestEnvironment environment;
+        const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
+        QVERIFY(writeFile(path + u".new"_s, QByteArray(1000, '\0')));
+        writeStore();
+        QVERIFY(!QFile::exists(path + u".new"_s));
+        QCOMPARE(AppDelegate::shared().viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 200);
+    }
 };
-
-void TestDamaged::damagedStoreStopsAndIsKept_data()
-{
-    QTest::addColumn<int>("how");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("truncated") << int(Damage::Truncated) << u"Unresolved error database disk image is malformed"_s;
-    QTest::newRow("zero-length") << int(Damage::ZeroLength) << u"Unresolved error The store file is empty."_s;
-    QTest::newRow("not SQLite") << int(Damage::NotSqlite) << u"Unresolved error file is not a database"_s;
-    QTest::newRow("future version") << int(Damage::FutureVersion) << u"Unresolved error The store was written by a newer version"_s;
-    QTest::newRow("read-only") << int(Damage::ReadOnly) << u"Unresolved error The store file is read-only."_s;
-}
-
-void TestDamaged::damagedStoreStopsAndIsKept()
-{
-    QFETCH(int, how);
-    QFETCH(QString, reason);
-    TestEnvironment environment;
-    const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
-    writeStore();
-    damage(path, Damage(how));
-    const QByteArray bytes = contentsOf(path);
-    const QDateTime modified = QFileInfo(path).lastModified();
-    QTest::qSleep(20); // a write would show in the modification time
-
-    const QString message = fatalStop([] { AppDelegate::shared().viewContext(); });
-    QVERIFY2(message.startsWith(reason), qPrintable(message));
-    QVERIFY2(message.contains(u", {"_s) && message.contains(path), qPrintable(message));
-    QCOMPARE(contentsOf(path), bytes);
-    QCOMPARE(QFileInfo(path).lastModified(), modified);
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
-}
-
-void TestDamaged::damagedPreferencesAreKept_data()
-{
-    const QByteArray valid = R"({"FontName": {"type": "string", "value": "Georgia"}, "useWallpaper": {"type": "integer", "value": 1}})";
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<bool>("fatal");
-    QTest::addColumn<bool>("keepsWallpaper"); // the readable entry still reads
-    QTest::newRow("truncated") << valid.left(valid.size() - 9) << u"Preferences file unreadable, kept as "_s << false << false;
-    QTest::newRow("not JSON") << QByteArray("FontName=Georgia\n") << u"Preferences file unreadable, kept as "_s << false << false;
-    QTest::newRow("JSON array") << QByteArray("[1, 2]") << u"Preferences file unreadable, kept as "_s << false << false;
-    QTest::newRow("entry type and value disagree")
-        << QByteArray(R"({"FontName": {"type": "integer", "value": "Georgia"}, "useWallpaper": {"type": "integer", "value": 1}})")
-        << u"Preferences: ignored malformed entry FontName, file kept as "_s << false << true;
-    QTest::newRow("value of the wrong type for the key")
-        << QByteArray(R"({"FontName": {"type": "integer", "value": 12}, "useWallpaper": {"type": "integer", "value": 1}})")
-        << u"Fatal error: the setting \"FontName\" holds a value that is not "_s << true << true;
-}
-
-// Unreadable files and entries are kept aside with their bytes; a readable value of the wrong
-// type stops at the first read and leaves the file as it is.
-void TestDamaged::damagedPreferencesAreKept()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, message);
-    QFETCH(bool, fatal);
-    QFETCH(bool, keepsWallpaper);
-    TestEnvironment environment;
-    const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
-    writeFile(path, bytes);
-    UserDefaults::setStandardDirectory(environment.dataDirectory());
-
-    QString stop;
-    try {
-        QCOMPARE(Preferences::stringOrAbsent(PreferenceKeys::FontName), u"Arial"_s);
-    } catch (const FatalErrorException &error) {
-        stop = error.message();
-    }
-    QCOMPARE(Preferences::integerOrAbsent(PreferenceKeys::useWallpaper), keepsWallpaper ? 1 : 0);
-    const QString seen = fatal ? stop : environment.logLines.join(u'\n');
-    QVERIFY2(seen.startsWith(message), qPrintable(seen));
-    if (fatal) {
-        QCOMPARE(contentsOf(path), bytes);
-        return;
-    }
-    QVERIFY2(seen.endsWith(path + u".damaged"_s), qPrintable(seen));
-    Preferences::write(PreferenceKeys::ReaderFontSize, 20.0);
-    QCOMPARE(contentsOf(path + u".damaged"_s), bytes);
-    QCOMPARE(UserDefaults(path).doubleForKey(u"ReaderFontSize"_s), 20.0);
-}
-
-// A first start killed while building the store leaves only the half-made file beside it.
-void TestDamaged::interruptedFirstStartIsBuiltAgain()
-{
-    TestEnvironment environment;
-    const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
-    writeFile(path + u".new"_s, QByteArray(1000, '\0'));
-    writeStore();
-    QVERIFY(!QFile::exists(path + u".new"_s));
-    QCOMPARE(AppDelegate::shared().viewContext().fetch<PoemPrayer>(PoemPrayer::fetchRequest()).size(), 200);
-}
 
 QTEST_GUILESS_MAIN(TestDamaged)
 #include "tst_damaged.moc"

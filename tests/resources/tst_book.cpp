@@ -3,7 +3,6 @@
 #include "SpecialDayFile.h"
 #include "TestSupport.h"
 
-#include <QFile>
 #include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
@@ -15,8 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 QByteArray shipped(const QString &name)
 {
-    QFile file(TestEnvironment::sourceResources() + u'/' + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readFile(TestEnvironment::sourceResources() + u'/' + name);
 }
 
 // Every character Windows-1250 can hold.
@@ -89,191 +87,180 @@ class TestBook : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyDayOfALeapYearInOrder();
-    void pagesHaveTheirShape();
-    void noLineIsMetTwice();
-    void openingsStayVaried_data();
-    void openingsStayVaried();
-    void oneAddressToGod();
-    void datedPagesNameNoMovableDay_data();
-    void datedPagesNameNoMovableDay();
-    void specialDays();
-    void aboutArticles();
+    void everyDayOfALeapYearInOrder()
+    {
+        const auto text = PageFile::decodeWindows1250(shipped(u"Book.txt"_s));
+        QVERIFY2(text, "Book.txt holds a byte that is not Windows-1250");
+        // Nothing the loader would strip, and every page line whole.
+        for (const QChar c : {u',', u'\'', u'"', u'\r'})
+            QVERIFY2(!text->contains(c), qPrintable(u"Book.txt holds "_s + c));
+        const QStringList lines = PageFile::lines(*text);
+        QCOMPARE(lines.size(), 732);
+        const QLocale english(QLocale::English);
+        QDate date(2024, 1, 1);
+        for (int page = 1; page <= 732; ++page) {
+            const QString ampm = page % 2 ? u"AM"_s : u"PM"_s;
+            const auto parsed = PageFile::assignments(PageFile::pieces(lines[page - 1]), PageFile::columns);
+            QVERIFY2(std::holds_alternative<QList<PageFile::Assignment>>(parsed), qPrintable(lines[page - 1].left(60)));
+            QStringList fields;
+            for (const PageFile::Assignment &assignment : std::get<QList<PageFile::Assignment>>(parsed))
+                fields.append(assignment.value.toString());
+            QCOMPARE(fields.mid(0, 6).join(u'|'), u"%1|%2|%3|%4|%5|F"_s.arg(english.toString(date, u"MMMM d"_s), ampm)
+                                                     .arg(date.month()).arg(date.day()).arg(page));
+            QCOMPARE(fields.size(), 7);
+            if (ampm == u"PM"_s)
+                date = date.addDays(1);
+        }
+    }
+
+    void pagesHaveTheirShape()
+    {
+        const QList<Poem> poems = bookPoems() + specialDayPoems();
+        QVERIFY(poems.size() > 732);
+        for (const Poem &poem : poems)
+            checkShape(poem);
+    }
+
+    void noLineIsMetTwice()
+    {
+        QHash<QString, QString> firstLines;
+        QHash<QString, QString> longLines;
+        for (const Poem &poem : bookPoems() + specialDayPoems()) {
+            const QStringList lines = poem.text.split(u'\n', Qt::SkipEmptyParts);
+            const QString first = words(lines.value(0));
+            QVERIFY2(!firstLines.contains(first), qPrintable(poem.where + u" opens like "_s + firstLines.value(first)));
+            firstLines.insert(first, poem.where);
+            QSet<QString> own;
+            for (const QString &line : lines) {
+                const QString normal = words(line);
+                if (normal.count(u' ') < 4 || own.contains(normal))
+                    continue;
+                own.insert(normal);
+                QVERIFY2(!longLines.contains(normal),
+                         qPrintable(poem.where + u" repeats “"_s + line + u"” of "_s + longLines.value(normal)));
+                longLines.insert(normal, poem.where);
+            }
+        }
+    }
+
+    void openingsStayVaried_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<bool>("firstLineOnly");
+        QTest::addColumn<int>("mostPages");
+        QTest::newRow("four words opening any line") << 4 << false << 12;
+        QTest::newRow("three words opening a page") << 3 << true << 6;
+    }
+
+    // A phrase that opens too many pages turns into a refrain the reader hears across the year.
+    void openingsStayVaried()
+    {
+        QFETCH(int, length);
+        QFETCH(bool, firstLineOnly);
+        QFETCH(int, mostPages);
+        QHash<QString, QStringList> pagesOf;
+        for (const Poem &poem : bookPoems() + specialDayPoems()) {
+            QSet<QString> openings;
+            for (const QString &line : poem.text.split(u'\n', Qt::SkipEmptyParts)) {
+                const QStringList found = words(line).split(u' ');
+                if (found.size() >= length)
+                    openings.insert(found.first(length).join(u' '));
+                if (firstLineOnly)
+                    break;
+            }
+            for (const QString &opening : openings)
+                pagesOf[opening].append(poem.where);
+        }
+        QVERIFY(!pagesOf.isEmpty());
+        for (auto it = pagesOf.cbegin(); it != pagesOf.cend(); ++it)
+            QVERIFY2(it->size() <= mostPages, qPrintable(it.key() + u": "_s + it->join(u", "_s)));
+    }
+
+    // God is addressed as "you", never "You", mid-sentence: the same in every month, special day and article.
+    void oneAddressToGod()
+    {
+        static const QRegularExpression capitalised(u"\\p{Ll}\\s+(You|Your|Yours|Yourself)\\b"_s);
+        QList<Poem> texts = bookPoems() + specialDayPoems();
+        const auto articles = AboutFile::articles(QString::fromUtf8(shipped(u"About.txt"_s)));
+        if (const auto *list = std::get_if<QList<AboutFile::Article>>(&articles)) {
+            for (const AboutFile::Article &article : *list)
+                texts.append({article.name, article.text.value_or(QString())});
+        }
+        QVERIFY(texts.size() > 732);
+        for (const Poem &poem : texts) {
+            for (const QString &line : poem.text.split(u'\n')) {
+                const auto match = capitalised.match(line);
+                QVERIFY2(!match.hasMatch(), qPrintable(poem.where + u": "_s + line));
+            }
+        }
+    }
+
+    void datedPagesNameNoMovableDay_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::newRow("Lent") << u"(?-i)\\bLent\\b"_s; // not the lent of lending
+        QTest::newRow("Shrove Tuesday") << u"\\bShrove\\b"_s;
+        QTest::newRow("Ash Wednesday") << u"\\bAsh Wednesday\\b"_s;
+        QTest::newRow("Holy Week") << u"\\b(Holy Week|Palm Sunday|Maundy Thursday|Good Friday)\\b"_s;
+        QTest::newRow("Easter") << u"\\bEaster\\b"_s;
+        QTest::newRow("Pentecost") << u"\\b(Pentecost|Whitsun)\\b"_s;
+        QTest::newRow("Mothering Sunday") << u"\\b(Mothering Sunday|Mother’s Day|Father’s Day)"_s;
+        QTest::newRow("Memorial Day") << u"\\bMemorial Day\\b"_s;
+        QTest::newRow("Thanksgiving") << u"\\bThanksgiving\\b"_s;
+        QTest::newRow("the clocks changing") << u"\\bclocks (go|went|change|changed|haven’t changed)\\b"_s;
+        QTest::newRow("half-term") << u"\\bhalf-term\\b"_s;
+        QTest::newRow("a long weekend") << u"\\b(long weekend|bank holiday)\\b"_s;
+        QTest::newRow("a full moon") << u"\\bfull moon\\b"_s;
+    }
+
+    // A page is fixed to its date in every year and every country: days that move, or belong to one
+    // country, live among the special days instead.
+    void datedPagesNameNoMovableDay()
+    {
+        QFETCH(QString, pattern);
+        const QRegularExpression movable(pattern, QRegularExpression::CaseInsensitiveOption);
+        QVERIFY(movable.isValid());
+        const QList<Poem> poems = bookPoems();
+        QCOMPARE(poems.size(), 732);
+        for (const Poem &poem : poems) {
+            const auto match = movable.match(poem.text);
+            QVERIFY2(!match.hasMatch(), qPrintable(poem.where + u": "_s + match.captured()));
+        }
+    }
+
+    void specialDays()
+    {
+        const auto records = SpecialDayFile::records(QString::fromUtf8(shipped(u"SpecialDays.txt"_s)));
+        QVERIFY(std::holds_alternative<QList<SpecialDayFile::Record>>(records));
+        QSet<QString> keys;
+        QSet<QString> names;
+        for (const SpecialDayFile::Record &record : std::get<QList<SpecialDayFile::Record>>(records)) {
+            QCOMPARE(record.fields.size(), 3);
+            QVERIFY(record.fields[0] == u"AM"_s || record.fields[0] == u"PM"_s);
+            const QString key = record.fields[0] + record.fields[1];
+            QVERIFY2(!keys.contains(key), qPrintable(key));
+            keys.insert(key);
+            names.insert(record.fields[1]);
+            QVERIFY2(!record.fields[1].contains(u'\'') && !record.fields[1].contains(u'"'), qPrintable(record.fields[1]));
+        }
+        QVERIFY2(names.size() >= 45, qPrintable(QString::number(names.size())));
+    }
+
+    void aboutArticles()
+    {
+        const auto articles = AboutFile::articles(QString::fromUtf8(shipped(u"About.txt"_s)));
+        QVERIFY(std::holds_alternative<QList<AboutFile::Article>>(articles));
+        QStringList names;
+        for (const AboutFile::Article &article : std::get<QList<AboutFile::Article>>(articles)) {
+            names.append(article.name);
+            QVERIFY2(article.text && article.text->size() > 200, qPrintable(article.name));
+            QVERIFY2(!article.text->contains(u'\'') && !article.text->contains(u'"'), qPrintable(article.name));
+        }
+        names.sort();
+        QCOMPARE(names, (QStringList{u"Good Morning Acknowledgements"_s, u"Good Morning Authors"_s, u"Good Morning Preface"_s,
+                                     u"Good Night Acknowledgements"_s, u"Good Night Authors"_s, u"Good Night Preface"_s}));
+    }
 };
-
-void TestBook::everyDayOfALeapYearInOrder()
-{
-    const auto text = PageFile::decodeWindows1250(shipped(u"Book.txt"_s));
-    QVERIFY2(text, "Book.txt holds a byte that is not Windows-1250");
-    // Nothing the loader would strip, and every page line whole.
-    for (const QChar c : {u',', u'\'', u'"', u'\r'})
-        QVERIFY2(!text->contains(c), qPrintable(u"Book.txt holds "_s + c));
-    const QStringList lines = PageFile::lines(*text);
-    QCOMPARE(lines.size(), 732);
-    const QLocale english(QLocale::English);
-    QDate date(2024, 1, 1);
-    for (int page = 1; page <= 732; ++page) {
-        const QString ampm = page % 2 ? u"AM"_s : u"PM"_s;
-        const auto parsed = PageFile::assignments(PageFile::pieces(lines[page - 1]), PageFile::columns);
-        QVERIFY2(std::holds_alternative<QList<PageFile::Assignment>>(parsed), qPrintable(lines[page - 1].left(60)));
-        QStringList fields;
-        for (const PageFile::Assignment &assignment : std::get<QList<PageFile::Assignment>>(parsed))
-            fields.append(assignment.value.toString());
-        QCOMPARE(fields.mid(0, 6).join(u'|'), u"%1|%2|%3|%4|%5|F"_s.arg(english.toString(date, u"MMMM d"_s), ampm)
-                                                 .arg(date.month()).arg(date.day()).arg(page));
-        QCOMPARE(fields.size(), 7);
-        if (ampm == u"PM"_s)
-            date = date.addDays(1);
-    }
-}
-
-void TestBook::pagesHaveTheirShape()
-{
-    const QList<Poem> poems = bookPoems() + specialDayPoems();
-    QVERIFY(poems.size() > 732);
-    for (const Poem &poem : poems)
-        checkShape(poem);
-}
-
-void TestBook::noLineIsMetTwice()
-{
-    QHash<QString, QString> firstLines;
-    QHash<QString, QString> longLines;
-    for (const Poem &poem : bookPoems() + specialDayPoems()) {
-        const QStringList lines = poem.text.split(u'\n', Qt::SkipEmptyParts);
-        const QString first = words(lines.value(0));
-        QVERIFY2(!firstLines.contains(first), qPrintable(poem.where + u" opens like "_s + firstLines.value(first)));
-        firstLines.insert(first, poem.where);
-        QSet<QString> own;
-        for (const QString &line : lines) {
-            const QString normal = words(line);
-            if (normal.count(u' ') < 4 || own.contains(normal))
-                continue;
-            own.insert(normal);
-            QVERIFY2(!longLines.contains(normal),
-                     qPrintable(poem.where + u" repeats “"_s + line + u"” of "_s + longLines.value(normal)));
-            longLines.insert(normal, poem.where);
-        }
-    }
-}
-
-void TestBook::openingsStayVaried_data()
-{
-    QTest::addColumn<int>("length");
-    QTest::addColumn<bool>("firstLineOnly");
-    QTest::addColumn<int>("mostPages");
-    QTest::newRow("four words opening any line") << 4 << false << 12;
-    QTest::newRow("three words opening a page") << 3 << true << 6;
-}
-
-// A phrase that opens too many pages turns into a refrain the reader hears across the year.
-void TestBook::openingsStayVaried()
-{
-    QFETCH(int, length);
-    QFETCH(bool, firstLineOnly);
-    QFETCH(int, mostPages);
-    QHash<QString, QStringList> pagesOf;
-    for (const Poem &poem : bookPoems() + specialDayPoems()) {
-        QSet<QString> openings;
-        for (const QString &line : poem.text.split(u'\n', Qt::SkipEmptyParts)) {
-            const QStringList found = words(line).split(u' ');
-            if (found.size() >= length)
-                openings.insert(found.first(length).join(u' '));
-            if (firstLineOnly)
-                break;
-        }
-        for (const QString &opening : openings)
-            pagesOf[opening].append(poem.where);
-    }
-    QVERIFY(!pagesOf.isEmpty());
-    for (auto it = pagesOf.cbegin(); it != pagesOf.cend(); ++it)
-        QVERIFY2(it->size() <= mostPages, qPrintable(it.key() + u": "_s + it->join(u", "_s)));
-}
-
-// God is addressed as "you", never "You", mid-sentence: the same in every month, special day and article.
-void TestBook::oneAddressToGod()
-{
-    static const QRegularExpression capitalised(u"\\p{Ll}\\s+(You|Your|Yours|Yourself)\\b"_s);
-    QList<Poem> texts = bookPoems() + specialDayPoems();
-    const auto articles = AboutFile::articles(QString::fromUtf8(shipped(u"About.txt"_s)));
-    if (const auto *list = std::get_if<QList<AboutFile::Article>>(&articles)) {
-        for (const AboutFile::Article &article : *list)
-            texts.append({article.name, article.text.value_or(QString())});
-    }
-    QVERIFY(texts.size() > 732);
-    for (const Poem &poem : texts) {
-        for (const QString &line : poem.text.split(u'\n')) {
-            const auto match = capitalised.match(line);
-            QVERIFY2(!match.hasMatch(), qPrintable(poem.where + u": "_s + line));
-        }
-    }
-}
-
-void TestBook::datedPagesNameNoMovableDay_data()
-{
-    QTest::addColumn<QString>("pattern");
-    QTest::newRow("Lent") << u"(?-i)\\bLent\\b"_s; // not the lent of lending
-    QTest::newRow("Shrove Tuesday") << u"\\bShrove\\b"_s;
-    QTest::newRow("Ash Wednesday") << u"\\bAsh Wednesday\\b"_s;
-    QTest::newRow("Holy Week") << u"\\b(Holy Week|Palm Sunday|Maundy Thursday|Good Friday)\\b"_s;
-    QTest::newRow("Easter") << u"\\bEaster\\b"_s;
-    QTest::newRow("Pentecost") << u"\\b(Pentecost|Whitsun)\\b"_s;
-    QTest::newRow("Mothering Sunday") << u"\\b(Mothering Sunday|Mother’s Day|Father’s Day)"_s;
-    QTest::newRow("Memorial Day") << u"\\bMemorial Day\\b"_s;
-    QTest::newRow("Thanksgiving") << u"\\bThanksgiving\\b"_s;
-    QTest::newRow("the clocks changing") << u"\\bclocks (go|went|change|changed|haven’t changed)\\b"_s;
-    QTest::newRow("half-term") << u"\\bhalf-term\\b"_s;
-    QTest::newRow("a long weekend") << u"\\b(long weekend|bank holiday)\\b"_s;
-    QTest::newRow("a full moon") << u"\\bfull moon\\b"_s;
-}
-
-// A page is fixed to its date in every year and every country: days that move, or belong to one
-// country, live among the special days instead.
-void TestBook::datedPagesNameNoMovableDay()
-{
-    QFETCH(QString, pattern);
-    const QRegularExpression movable(pattern, QRegularExpression::CaseInsensitiveOption);
-    QVERIFY(movable.isValid());
-    const QList<Poem> poems = bookPoems();
-    QCOMPARE(poems.size(), 732);
-    for (const Poem &poem : poems) {
-        const auto match = movable.match(poem.text);
-        QVERIFY2(!match.hasMatch(), qPrintable(poem.where + u": "_s + match.captured()));
-    }
-}
-
-void TestBook::specialDays()
-{
-    const auto records = SpecialDayFile::records(QString::fromUtf8(shipped(u"SpecialDays.txt"_s)));
-    QVERIFY(std::holds_alternative<QList<SpecialDayFile::Record>>(records));
-    QSet<QString> keys;
-    QSet<QString> names;
-    for (const SpecialDayFile::Record &record : std::get<QList<SpecialDayFile::Record>>(records)) {
-        QCOMPARE(record.fields.size(), 3);
-        QVERIFY(record.fields[0] == u"AM"_s || record.fields[0] == u"PM"_s);
-        const QString key = record.fields[0] + record.fields[1];
-        QVERIFY2(!keys.contains(key), qPrintable(key));
-        keys.insert(key);
-        names.insert(record.fields[1]);
-        QVERIFY2(!record.fields[1].contains(u'\'') && !record.fields[1].contains(u'"'), qPrintable(record.fields[1]));
-    }
-    QVERIFY2(names.size() >= 45, qPrintable(QString::number(names.size())));
-}
-
-void TestBook::aboutArticles()
-{
-    const auto articles = AboutFile::articles(QString::fromUtf8(shipped(u"About.txt"_s)));
-    QVERIFY(std::holds_alternative<QList<AboutFile::Article>>(articles));
-    QStringList names;
-    for (const AboutFile::Article &article : std::get<QList<AboutFile::Article>>(articles)) {
-        names.append(article.name);
-        QVERIFY2(article.text && article.text->size() > 200, qPrintable(article.name));
-        QVERIFY2(!article.text->contains(u'\'') && !article.text->contains(u'"'), qPrintable(article.name));
-    }
-    names.sort();
-    QCOMPARE(names, (QStringList{u"Good Morning Acknowledgements"_s, u"Good Morning Authors"_s, u"Good Morning Preface"_s,
-                                 u"Good Night Acknowledgements"_s, u"Good Night Authors"_s, u"Good Night Preface"_s}));
-}
 
 QTEST_GUILESS_MAIN(TestBook)
 #include "tst_book.moc"

@@ -3,6 +3,7 @@
 // the bundle ships (which holds its random and noise sources to their seeds). The drawings
 // themselves are checked as shipped.
 #include "Art.h"
+#include "TestSupport.h"
 
 #include <QFontInfo>
 #include <QImageReader>
@@ -25,11 +26,7 @@ QImage render(const QByteArray &svg, QSize size)
 
 int darkPixels(const QImage &image)
 {
-    int n = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            n += qGray(image.pixel(x, y)) < 128;
-    return n;
+    return countPixels(image, [](QRgb p) { return qGray(p) < 128; });
 }
 }
 

@@ -18,12 +18,6 @@ using namespace Qt::StringLiterals;
 using Type = UserDefaults::Type;
 
 namespace {
-void store(const QVariantMap &preferences)
-{
-    for (auto it = preferences.begin(); it != preferences.end(); ++it)
-        UserDefaults::standard().set(it.key(), it.value());
-}
-
 // The stored value and its type, as "integer 17", "double 18", "string true" or "absent".
 QString stored(const QString &key)
 {
@@ -72,270 +66,258 @@ class TestSettings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void firstVisitWritesOnlyWhatIsMissing_data();
-    void firstVisitWritesOnlyWhatIsMissing();
-    void fontPickerWritesTheEditedField_data();
-    void fontPickerWritesTheEditedField();
-    void listStepperAndSwitchesStoreTypedValues();
-    void wallpaperRowShownAndChanged_data();
-    void wallpaperRowShownAndChanged();
-    void wallpaperDrawEndsWhenNothingIsInUse_data();
-    void wallpaperDrawEndsWhenNothingIsInUse();
-    void settingsRows_data();
-    void settingsRows();
-};
-
-void TestSettings::firstVisitWritesOnlyWhatIsMissing_data()
-{
-    QTest::addColumn<QVariantMap>("before");
-    QTest::addColumn<QStringList>("after"); // sizes, colour, switches as stored
-    QTest::addColumn<QStringList>("shown"); // list size, reader size, reader font, list font, colour segment, swatch
-    QTest::newRow("fresh install")
-        << QVariantMap()
-        << QStringList{u"integer 17"_s, u"integer 17"_s, u"integer 0"_s, u"integer 0"_s, u"integer 0"_s}
-        << QStringList{u"17"_s, u"17"_s, u"Arial"_s, u"Arial"_s, u"0"_s, u"#000000"_s};
-    QTest::newRow("stored values are shown as stored")
-        << QVariantMap{{u"ListFontSize"_s, 18.0}, {u"ReaderFontSize"_s, 22.5}, {u"textColor"_s, 2},
-                       {u"useWallpaper"_s, 1}, {u"ListWallpaperVisible"_s, 1}, {u"FontName"_s, u"DejaVu Serif"_s},
-                       {u"ListFontName"_s, u"DejaVu Sans"_s}}
-        << QStringList{u"double 18"_s, u"double 22.5"_s, u"integer 2"_s, u"integer 1"_s, u"integer 1"_s}
-        << QStringList{u"18.0"_s, u"22.5"_s, u"DejaVu Serif"_s, u"DejaVu Sans"_s, u"2"_s, textColorFor(2)->name()};
-    QTest::newRow("a whole size stored by a first visit reads back whole; blue")
-        << QVariantMap{{u"ListFontSize"_s, 17}, {u"ReaderFontSize"_s, 30}, {u"textColor"_s, 3}}
-        << QStringList{u"integer 17"_s, u"integer 30"_s, u"integer 3"_s, u"integer 0"_s, u"integer 0"_s}
-        << QStringList{u"17"_s, u"30"_s, u"Arial"_s, u"Arial"_s, u"3"_s, u"#0000ff"_s};
-    for (const int unknown : {7, -1})
-        QTest::addRow("colour code %d selects black", unknown)
-            << QVariantMap{{u"textColor"_s, unknown}}
-            << QStringList{u"integer 17"_s, u"integer 17"_s, u"integer %1"_s.arg(unknown), u"integer 0"_s, u"integer 0"_s}
+    void firstVisitWritesOnlyWhatIsMissing_data()
+    {
+        QTest::addColumn<QVariantMap>("before");
+        QTest::addColumn<QStringList>("after"); // sizes, colour, switches as stored
+        QTest::addColumn<QStringList>("shown"); // list size, reader size, reader font, list font, colour segment, swatch
+        QTest::newRow("fresh install")
+            << QVariantMap()
+            << QStringList{u"integer 17"_s, u"integer 17"_s, u"integer 0"_s, u"integer 0"_s, u"integer 0"_s}
             << QStringList{u"17"_s, u"17"_s, u"Arial"_s, u"Arial"_s, u"0"_s, u"#000000"_s};
-}
-
-void TestSettings::firstVisitWritesOnlyWhatIsMissing()
-{
-    QFETCH(QVariantMap, before);
-    QFETCH(QStringList, after);
-    QFETCH(QStringList, shown);
-    TestEnvironment environment;
-    store(before);
-    DefaultsViewController controller;
-    controller.viewDidLoad();
-    QCOMPARE((QStringList{stored(u"ListFontSize"_s), stored(u"ReaderFontSize"_s), stored(u"textColor"_s),
-                          stored(u"useWallpaper"_s), stored(u"ListWallpaperVisible"_s)}),
-             after);
-    QCOMPARE((QStringList{controller.ListFontSizeText(), controller.ReaderFontSizeText(), controller.FontListText(),
-                          controller.ListFontText(), QString::number(controller.colorSegmentIndex()),
-                          controller.ColorLabelColor().name()}),
-             shown);
-    QCOMPARE(controller.colorTitles(), (QStringList{u"Black"_s, u"Magenta"_s, u"Red"_s, u"Blue"_s}));
-    QCOMPARE(controller.ReaderFontSize(), shown[1].toDouble()); // the stepper starts from the shown size
-    QCOMPARE(stored(u"FontName"_s), before.contains(u"FontName"_s) ? u"string DejaVu Serif"_s : u"absent"_s);
-    QCOMPARE(controller.useWallpaper() == 1, before.contains(u"useWallpaper"_s));
-}
-
-void TestSettings::fontPickerWritesTheEditedField_data()
-{
-    using Field = DefaultsViewController::Field;
-    QTest::addColumn<QList<Field>>("edits"); // each field edited in turn, picking the first filtered row
-    QTest::addColumn<bool>("readerStored");
-    QTest::addColumn<bool>("listStored");
-    QTest::newRow("list font field") << QList<Field>{Field::ListFontTextField} << false << true;
-    QTest::newRow("moving to the other field ends the first")
-        << QList<Field>{Field::ListFontTextField, Field::FontListTextField} << true << true;
-}
-
-void TestSettings::fontPickerWritesTheEditedField()
-{
-    QFETCH(QList<DefaultsViewController::Field>, edits);
-    QFETCH(bool, readerStored);
-    QFETCH(bool, listStored);
-    TestEnvironment environment;
-    DefaultsViewController controller;
-    controller.viewDidLoad();
-    controller.setFontFilter(u"  SANS "_s);
-    QVERIFY(!controller.FontPickerRows().isEmpty());
-    for (const QString &family : controller.FontPickerRows())
-        QVERIFY2(family.contains(u"sans"_s, Qt::CaseInsensitive), qPrintable(family));
-    const QString picked = controller.FontPickerRows().constFirst();
-
-    for (const auto field : edits) {
-        controller.beginEditing(field);
-        controller.didSelectRow(0);
+        QTest::newRow("stored values are shown as stored")
+            << QVariantMap{{u"ListFontSize"_s, 18.0}, {u"ReaderFontSize"_s, 22.5}, {u"textColor"_s, 2},
+                           {u"useWallpaper"_s, 1}, {u"ListWallpaperVisible"_s, 1}, {u"FontName"_s, u"DejaVu Serif"_s},
+                           {u"ListFontName"_s, u"DejaVu Sans"_s}}
+            << QStringList{u"double 18"_s, u"double 22.5"_s, u"integer 2"_s, u"integer 1"_s, u"integer 1"_s}
+            << QStringList{u"18.0"_s, u"22.5"_s, u"DejaVu Serif"_s, u"DejaVu Sans"_s, u"2"_s, textColorFor(2)->name()};
+        QTest::newRow("a whole size stored by a first visit reads back whole; blue")
+            << QVariantMap{{u"ListFontSize"_s, 17}, {u"ReaderFontSize"_s, 30}, {u"textColor"_s, 3}}
+            << QStringList{u"integer 17"_s, u"integer 30"_s, u"integer 3"_s, u"integer 0"_s, u"integer 0"_s}
+            << QStringList{u"17"_s, u"30"_s, u"Arial"_s, u"Arial"_s, u"3"_s, u"#0000ff"_s};
+        for (const int unknown : {7, -1})
+            QTest::addRow("colour code %d selects black", unknown)
+                << QVariantMap{{u"textColor"_s, unknown}}
+                << QStringList{u"integer 17"_s, u"integer 17"_s, u"integer %1"_s.arg(unknown), u"integer 0"_s, u"integer 0"_s}
+                << QStringList{u"17"_s, u"17"_s, u"Arial"_s, u"Arial"_s, u"0"_s, u"#000000"_s};
     }
-    controller.dismissKeyboard();
 
-    QCOMPARE(stored(u"FontName"_s), readerStored ? u"string "_s + picked : u"absent"_s);
-    QCOMPARE(stored(u"ListFontName"_s), listStored ? u"string "_s + picked : u"absent"_s);
-    QCOMPARE(controller.FontName(), readerStored ? picked : u"Arial"_s);
-    QCOMPARE(controller.ListFontName(), listStored ? picked : u"Arial"_s);
-}
+    void firstVisitWritesOnlyWhatIsMissing()
+    {
+        QFETCH(QVariantMap, before);
+        QFETCH(QStringList, after);
+        QFETCH(QStringList, shown);
+        TestEnvironment environment;
+        setPreferences(before);
+        DefaultsViewController controller;
+        controller.viewDidLoad();
+        QCOMPARE((QStringList{stored(u"ListFontSize"_s), stored(u"ReaderFontSize"_s), stored(u"textColor"_s),
+                              stored(u"useWallpaper"_s), stored(u"ListWallpaperVisible"_s)}),
+                 after);
+        QCOMPARE((QStringList{controller.ListFontSizeText(), controller.ReaderFontSizeText(), controller.FontListText(),
+                              controller.ListFontText(), QString::number(controller.colorSegmentIndex()),
+                              controller.ColorLabelColor().name()}),
+                 shown);
+        QCOMPARE(controller.colorTitles(), (QStringList{u"Black"_s, u"Magenta"_s, u"Red"_s, u"Blue"_s}));
+        QCOMPARE(controller.ReaderFontSize(), shown[1].toDouble()); // the stepper starts from the shown size
+        QCOMPARE(stored(u"FontName"_s), before.contains(u"FontName"_s) ? u"string DejaVu Serif"_s : u"absent"_s);
+        QCOMPARE(controller.useWallpaper() == 1, before.contains(u"useWallpaper"_s));
+    }
 
-// The reader's stepper and switch are driven in the window.
-void TestSettings::listStepperAndSwitchesStoreTypedValues()
-{
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"useWallpaper"_s, 1);
-    DefaultsViewController controller;
-    controller.viewDidLoad();
-    controller.ListStepperChanged(8.0);
-    controller.PoemViewSwitchChanged(false);
-    controller.ListViewerSwitchChanged(true);
-    QCOMPARE(controller.ListFontSizeText(), u"8.0"_s);
-    QCOMPARE(controller.ReaderFontSizeText(), u"17"_s);
-    QCOMPARE((QStringList{stored(u"ListFontSize"_s), stored(u"useWallpaper"_s), stored(u"ListWallpaperVisible"_s)}),
-             (QStringList{u"double 8"_s, u"integer 0"_s, u"integer 1"_s}));
-}
+    void fontPickerWritesTheEditedField_data()
+    {
+        using Field = DefaultsViewController::Field;
+        QTest::addColumn<QList<Field>>("edits"); // each field edited in turn, picking the first filtered row
+        QTest::addColumn<bool>("readerStored");
+        QTest::addColumn<bool>("listStored");
+        QTest::newRow("list font field") << QList<Field>{Field::ListFontTextField} << false << true;
+        QTest::newRow("moving to the other field ends the first")
+            << QList<Field>{Field::ListFontTextField, Field::FontListTextField} << true << true;
+    }
 
-void TestSettings::wallpaperRowShownAndChanged_data()
-{
-    QTest::addColumn<QVariant>("before");
-    QTest::addColumn<int>("shownState");
-    QTest::addColumn<QString>("shownLabel");
-    QTest::addColumn<QString>("storedWhenShown");
-    QTest::addColumn<int>("changeTo");
-    QTest::addColumn<QString>("storedAfter");
-    QTest::addColumn<QString>("labelAfter");
-    QTest::newRow("never shown: \"true\" written, then unticked")
-        << QVariant() << 1 << u"Used"_s << u"string true"_s << 0 << u"string false"_s << u"Not Used"_s;
-    QTest::newRow("any other text shows as used; mixed is not used")
-        << QVariant(u"yes"_s) << 1 << u"Used"_s << u"string yes"_s << 2 << u"string false"_s << u"Not Used"_s;
-}
+    void fontPickerWritesTheEditedField()
+    {
+        QFETCH(QList<DefaultsViewController::Field>, edits);
+        QFETCH(bool, readerStored);
+        QFETCH(bool, listStored);
+        TestEnvironment environment;
+        DefaultsViewController controller;
+        controller.viewDidLoad();
+        controller.setFontFilter(u"  SANS "_s);
+        QVERIFY(!controller.FontPickerRows().isEmpty());
+        for (const QString &family : controller.FontPickerRows())
+            QVERIFY2(family.contains(u"sans"_s, Qt::CaseInsensitive), qPrintable(family));
+        const QString picked = controller.FontPickerRows().constFirst();
 
-void TestSettings::wallpaperRowShownAndChanged()
-{
-    QFETCH(QVariant, before);
-    QFETCH(int, shownState);
-    QFETCH(QString, shownLabel);
-    QFETCH(QString, storedWhenShown);
-    QFETCH(int, changeTo);
-    QFETCH(QString, storedAfter);
-    QFETCH(QString, labelAfter);
-    TestEnvironment environment;
-    if (before.isValid())
-        UserDefaults::standard().set(u"AM-40"_s, before);
-    ListWallpaperTableViewController controller;
-    controller.viewDidLoad();
-    WallpaperListModel &rows = *controller.WallpaperList();
-    const QModelIndex row = rows.index(4);
-    QCOMPARE(rows.data(row, WallpaperListModel::ImageNameRole).toString(), u"AM-40"_s);
-    QCOMPARE(stored(u"AM-41"_s), u"absent"_s); // only rows shown are written
-    QCOMPARE(rows.data(row, WallpaperListModel::CheckStateRole).toInt(), shownState);
-    QCOMPARE(rows.data(row, WallpaperListModel::UseLabelRole).toString(), shownLabel);
-    QCOMPARE(stored(u"AM-40"_s), storedWhenShown);
+        for (const auto field : edits) {
+            controller.beginEditing(field);
+            controller.didSelectRow(0);
+        }
+        controller.dismissKeyboard();
 
-    QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
-    controller.CheckBoxChanged(4, changeTo);
-    QCOMPARE(stored(u"AM-40"_s), storedAfter);
-    QCOMPARE(rows.data(row, WallpaperListModel::UseLabelRole).toString(), labelAfter);
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.first().at(0).toModelIndex().row(), 4);
-}
+        QCOMPARE(stored(u"FontName"_s), readerStored ? u"string "_s + picked : u"absent"_s);
+        QCOMPARE(stored(u"ListFontName"_s), listStored ? u"string "_s + picked : u"absent"_s);
+        QCOMPARE(controller.FontName(), readerStored ? picked : u"Arial"_s);
+        QCOMPARE(controller.ListFontName(), listStored ? picked : u"Arial"_s);
+    }
 
-void TestSettings::wallpaperDrawEndsWhenNothingIsInUse_data()
-{
-    QTest::addColumn<int>("firstBound");
-    QTest::addColumn<QStringList>("used"); // all other names "false"
-    QTest::addColumn<QList<int>>("draws");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("drawsMade");
-    QTest::newRow("nothing in use: one draw, then none") << 35 << QStringList() << QList<int>{7} << -1 << 1;
-    QTest::newRow("only the last, missed: redraws can never reach it") << 35 << QStringList{u"Page35"_s}
-                                                                       << QList<int>{3} << -1 << 1;
-}
-
-void TestSettings::wallpaperDrawEndsWhenNothingIsInUse()
-{
-    QFETCH(int, firstBound);
-    QFETCH(QStringList, used);
-    QFETCH(QList<int>, draws);
-    QFETCH(int, index);
-    QFETCH(int, drawsMade);
-    TestEnvironment environment;
-    setAll(Wallpapers::ViewerWallpaper(), u"false"_s);
-    setAll(used, u"true"_s);
-    QList<int> bounds;
-    QCOMPARE(Wallpapers::draw(Wallpapers::ViewerWallpaper(), firstBound, 0, scripted(draws, bounds)), index);
-    QCOMPARE(bounds.size(), drawsMade);
-    ViewerWallpaperTableViewController screen;
-    screen.viewDidLoad();
-    QCOMPARE(screen.noneInUse(), used.isEmpty());
-    if (used.isEmpty()) { // a reader opened now shows none, and does not hang
+    // The reader's stepper and switch are driven in the window.
+    void listStepperAndSwitchesStoreTypedValues()
+    {
+        TestEnvironment environment;
         UserDefaults::standard().set(u"useWallpaper"_s, 1);
-        ReaderAppearance reader;
-        reader.drawWallpaper(35);
-        reader.read();
-        QVERIFY(reader.wallpaper().isEmpty());
+        DefaultsViewController controller;
+        controller.viewDidLoad();
+        controller.ListStepperChanged(8.0);
+        controller.PoemViewSwitchChanged(false);
+        controller.ListViewerSwitchChanged(true);
+        QCOMPARE(controller.ListFontSizeText(), u"8.0"_s);
+        QCOMPARE(controller.ReaderFontSizeText(), u"17"_s);
+        QCOMPARE((QStringList{stored(u"ListFontSize"_s), stored(u"useWallpaper"_s), stored(u"ListWallpaperVisible"_s)}),
+                 (QStringList{u"double 8"_s, u"integer 0"_s, u"integer 1"_s}));
     }
-}
 
-void TestSettings::settingsRows_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<bool>("canSend"); // text messages, and mail
-    QTest::addColumn<QString>("opened");
-    QTest::addColumn<QString>("shared");
-    QTest::addColumn<QString>("alert");
-    QTest::addColumn<QStringList>("mail");
-    const QString text = u"Can't Send Text Message|Your Device is not able to send text messages."_s;
-    const QString site = u"Click the following link to visit the Larkwells Books App website\nhttps://larkwells.org/"_s;
-    const QStringList feedback{u"--utf8"_s, u"--body"_s, u"Enter your comments below: "_s, u"feedback@larkwells.org"_s};
-    QTest::newRow("0 rate") << 0 << true << u"https://larkwells.org/app?action=write-review"_s << QString() << QString()
-                            << QStringList();
-    QTest::newRow("1 share the app") << 1 << true << QString() << u"https://larkwells.org/app"_s << QString()
-                                     << QStringList();
-    QTest::newRow("1 share the app, no text messages") << 1 << false << QString() << QString() << text << QStringList();
-    QTest::newRow("2 share the site") << 2 << true << QString() << site << QString() << QStringList();
-    QTest::newRow("2 share the site, no text messages") << 2 << false << QString() << QString() << text
-                                                        << QStringList();
-    QTest::newRow("3 visit the site") << 3 << false << u"https://larkwells.org/"_s << QString() << QString()
-                                      << QStringList();
-    QTest::newRow("4 feedback") << 4 << true << QString() << QString() << QString() << feedback;
-    QTest::newRow("4 feedback, no mail") << 4 << false << QString() << QString()
-                                         << u"Can't Send Email|Your Device is not able to send Email."_s
+    void wallpaperRowShownAndChanged_data()
+    {
+        QTest::addColumn<QVariant>("before");
+        QTest::addColumn<int>("shownState");
+        QTest::addColumn<QString>("shownLabel");
+        QTest::addColumn<QString>("storedWhenShown");
+        QTest::addColumn<int>("changeTo");
+        QTest::addColumn<QString>("storedAfter");
+        QTest::addColumn<QString>("labelAfter");
+        QTest::newRow("never shown: \"true\" written, then unticked")
+            << QVariant() << 1 << u"Used"_s << u"string true"_s << 0 << u"string false"_s << u"Not Used"_s;
+        QTest::newRow("any other text shows as used; mixed is not used")
+            << QVariant(u"yes"_s) << 1 << u"Used"_s << u"string yes"_s << 2 << u"string false"_s << u"Not Used"_s;
+    }
+
+    void wallpaperRowShownAndChanged()
+    {
+        QFETCH(QVariant, before);
+        QFETCH(int, shownState);
+        QFETCH(QString, shownLabel);
+        QFETCH(QString, storedWhenShown);
+        QFETCH(int, changeTo);
+        QFETCH(QString, storedAfter);
+        QFETCH(QString, labelAfter);
+        TestEnvironment environment;
+        if (before.isValid())
+            UserDefaults::standard().set(u"AM-40"_s, before);
+        ListWallpaperTableViewController controller;
+        controller.viewDidLoad();
+        WallpaperListModel &rows = *controller.WallpaperList();
+        const QModelIndex row = rows.index(4);
+        QCOMPARE(rows.data(row, WallpaperListModel::ImageNameRole).toString(), u"AM-40"_s);
+        QCOMPARE(stored(u"AM-41"_s), u"absent"_s); // only rows shown are written
+        QCOMPARE(rows.data(row, WallpaperListModel::CheckStateRole).toInt(), shownState);
+        QCOMPARE(rows.data(row, WallpaperListModel::UseLabelRole).toString(), shownLabel);
+        QCOMPARE(stored(u"AM-40"_s), storedWhenShown);
+
+        QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+        controller.CheckBoxChanged(4, changeTo);
+        QCOMPARE(stored(u"AM-40"_s), storedAfter);
+        QCOMPARE(rows.data(row, WallpaperListModel::UseLabelRole).toString(), labelAfter);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.first().at(0).toModelIndex().row(), 4);
+    }
+
+    void wallpaperDrawEndsWhenNothingIsInUse_data()
+    {
+        QTest::addColumn<int>("firstBound");
+        QTest::addColumn<QStringList>("used"); // all other names "false"
+        QTest::addColumn<QList<int>>("draws");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<int>("drawsMade");
+        QTest::newRow("nothing in use: one draw, then none") << 35 << QStringList() << QList<int>{7} << -1 << 1;
+        QTest::newRow("only the last, missed: redraws can never reach it") << 35 << QStringList{u"Page35"_s}
+                                                                           << QList<int>{3} << -1 << 1;
+    }
+
+    void wallpaperDrawEndsWhenNothingIsInUse()
+    {
+        QFETCH(int, firstBound);
+        QFETCH(QStringList, used);
+        QFETCH(QList<int>, draws);
+        QFETCH(int, index);
+        QFETCH(int, drawsMade);
+        TestEnvironment environment;
+        setAll(Wallpapers::ViewerWallpaper(), u"false"_s);
+        setAll(used, u"true"_s);
+        QList<int> bounds;
+        QCOMPARE(Wallpapers::draw(Wallpapers::ViewerWallpaper(), firstBound, 0, scripted(draws, bounds)), index);
+        QCOMPARE(bounds.size(), drawsMade);
+        ViewerWallpaperTableViewController screen;
+        screen.viewDidLoad();
+        QCOMPARE(screen.noneInUse(), used.isEmpty());
+        if (used.isEmpty()) { // a reader opened now shows none, and does not hang
+            UserDefaults::standard().set(u"useWallpaper"_s, 1);
+            ReaderAppearance reader;
+            reader.drawWallpaper(35);
+            reader.read();
+            QVERIFY(reader.wallpaper().isEmpty());
+        }
+    }
+
+    void settingsRows_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("canSend"); // text messages, and mail
+        QTest::addColumn<QString>("opened");
+        QTest::addColumn<QString>("shared");
+        QTest::addColumn<QString>("alert");
+        QTest::addColumn<QStringList>("mail");
+        const QString text = u"Can't Send Text Message|Your Device is not able to send text messages."_s;
+        const QString site = u"Click the following link to visit the Larkwells Books App website\nhttps://larkwells.org/"_s;
+        const QStringList feedback{u"--utf8"_s, u"--body"_s, u"Enter your comments below: "_s, u"feedback@larkwells.org"_s};
+        QTest::newRow("0 rate") << 0 << true << u"https://larkwells.org/app?action=write-review"_s << QString() << QString()
+                                << QStringList();
+        QTest::newRow("1 share the app") << 1 << true << QString() << u"https://larkwells.org/app"_s << QString()
                                          << QStringList();
-    QTest::newRow("5 nothing") << 5 << true << QString() << QString() << QString() << QStringList();
-}
-
-void TestSettings::settingsRows()
-{
-    QFETCH(int, row);
-    QFETCH(bool, canSend);
-    QFETCH(QString, opened);
-    QFETCH(QString, shared);
-    QFETCH(QString, alert);
-    QFETCH(QStringList, mail);
-    TestEnvironment environment;
-    OpenedUrls urls;
-    QStringList mailed;
-    Sharing::shared().setCanSendTextForTesting(canSend);
-    Mail::shared().setCanSendMailForTesting(canSend);
-    Mail::shared().setLauncherForTesting([&](const QString &program, const QStringList &arguments) {
-        mailed = QStringList{program} + arguments;
-        return true;
-    });
-    QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
-
-    SettingsViewController controller;
-    QCOMPARE(controller.rowTitles().size(), 5);
-    controller.didSelectRowAt(row);
-
-    QCOMPARE(urls.urls.size(), opened.isEmpty() ? 0 : 1);
-    if (!opened.isEmpty())
-        QCOMPARE(urls.urls.first().toString(), opened);
-    QCOMPARE(Sharing::shared().showing() ? Sharing::shared().text() : QString(), shared);
-    QCOMPARE(alerts.isEmpty() ? QString() : alerts.first().at(0).toString() + u'|' + alerts.first().at(1).toString(),
-             alert);
-    if (!alert.isEmpty()) {
-        QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
-        Alerts::shared().dismiss(0);
+        QTest::newRow("1 share the app, no text messages") << 1 << false << QString() << QString() << text << QStringList();
+        QTest::newRow("2 share the site") << 2 << true << QString() << site << QString() << QStringList();
+        QTest::newRow("2 share the site, no text messages") << 2 << false << QString() << QString() << text
+                                                            << QStringList();
+        QTest::newRow("3 visit the site") << 3 << false << u"https://larkwells.org/"_s << QString() << QString()
+                                          << QStringList();
+        QTest::newRow("4 feedback") << 4 << true << QString() << QString() << QString() << feedback;
+        QTest::newRow("4 feedback, no mail") << 4 << false << QString() << QString()
+                                             << u"Can't Send Email|Your Device is not able to send Email."_s
+                                             << QStringList();
+        QTest::newRow("5 nothing") << 5 << true << QString() << QString() << QString() << QStringList();
     }
-    QCOMPARE(mailed, mail.isEmpty() ? QStringList() : QStringList{u"xdg-email"_s} + mail);
 
-    Sharing::shared().cancel();
-    Sharing::shared().setCanSendTextForTesting(std::nullopt);
-    Mail::shared().setCanSendMailForTesting(std::nullopt);
-    Mail::shared().setLauncherForTesting({});
-}
+    void settingsRows()
+    {
+        QFETCH(int, row);
+        QFETCH(bool, canSend);
+        QFETCH(QString, opened);
+        QFETCH(QString, shared);
+        QFETCH(QString, alert);
+        QFETCH(QStringList, mail);
+        TestEnvironment environment;
+        OpenedUrls urls;
+        QStringList mailed;
+        Sharing::shared().setCanSendTextForTesting(canSend);
+        Mail::shared().setCanSendMailForTesting(canSend);
+        Mail::shared().setLauncherForTesting([&](const QString &program, const QStringList &arguments) {
+            mailed = QStringList{program} + arguments;
+            return true;
+        });
+        QSignalSpy alerts(&Alerts::shared(), &Alerts::presented);
+
+        SettingsViewController controller;
+        QCOMPARE(controller.rowTitles().size(), 5);
+        controller.didSelectRowAt(row);
+
+        QCOMPARE(urls.urls.size(), opened.isEmpty() ? 0 : 1);
+        if (!opened.isEmpty())
+            QCOMPARE(urls.urls.first().toString(), opened);
+        QCOMPARE(Sharing::shared().showing() ? Sharing::shared().text() : QString(), shared);
+        QCOMPARE(alerts.isEmpty() ? QString() : alerts.first().at(0).toString() + u'|' + alerts.first().at(1).toString(),
+                 alert);
+        if (!alert.isEmpty()) {
+            QCOMPARE(Alerts::shared().buttons(), QStringList{u"OK"_s});
+            Alerts::shared().dismiss(0);
+        }
+        QCOMPARE(mailed, mail.isEmpty() ? QStringList() : QStringList{u"xdg-email"_s} + mail);
+
+        Sharing::shared().cancel();
+        Sharing::shared().setCanSendTextForTesting(std::nullopt);
+        Mail::shared().setCanSendMailForTesting(std::nullopt);
+        Mail::shared().setLauncherForTesting({});
+    }
+};
 
 QTEST_MAIN(TestSettings)
 #include "tst_settings.moc"

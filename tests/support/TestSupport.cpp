@@ -12,10 +12,15 @@
 #include "UserDefaults.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QImage>
 #include <QQmlExtensionPlugin>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -49,15 +54,55 @@ TestEnvironment::~TestEnvironment()
 
 void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes)
 {
-    QFile file(m_bundle.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
+    writeFile(m_bundle.filePath(name), bytes);
     Bundle::setResourceDirectory(m_bundle.path());
 }
 
 QString TestEnvironment::sourceResources()
 {
     return QStringLiteral(LARKWELLS_RESOURCES_DIR);
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+QStringList sqlRun(const QString &path, const QStringList &statements)
+{
+    const QString name = QStringLiteral("sqlRun");
+    QStringList values;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        database.setDatabaseName(path);
+        QSqlQuery query(database);
+        for (const QString &statement : statements) {
+            values.clear();
+            if (!database.isOpen() && !database.open())
+                return {QStringLiteral("failed: open ") + database.lastError().text()};
+            if (!query.exec(statement)) {
+                values = {QStringLiteral("failed: ") + statement + QStringLiteral(": ") + query.lastError().text()};
+                break;
+            }
+            while (query.next())
+                values.append(query.value(0).toString());
+        }
+    }
+    QSqlDatabase::removeDatabase(name);
+    return values;
+}
+
+void setPreferences(const QVariantMap &preferences)
+{
+    for (auto it = preferences.begin(); it != preferences.end(); ++it)
+        UserDefaults::standard().set(it.key(), it.value());
 }
 
 QString fatalStop(const std::function<void()> &action)
@@ -91,6 +136,11 @@ QQuickItem *findItem(QQuickItem *root, const QString &objectName)
 QQuickItem *findVisibleItem(QQuickItem *root, const QString &objectName)
 {
     return find(root, objectName, true);
+}
+
+QQuickItem *findVisibleItem(QQuickWindow *window, const QString &objectName)
+{
+    return find(window->contentItem(), objectName, true);
 }
 
 QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName)
@@ -141,10 +191,16 @@ QQuickWindow *loadMainWindow(QQmlApplicationEngine &engine)
     return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
 }
 
-QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page)
+QQuickWindow *loadLaunchedWindow(QQmlApplicationEngine &engine)
 {
     UserDefaults::standard().set(QStringLiteral("hasBeenLaunchedBeforeFlag"), true);
     QQuickWindow *window = loadMainWindow(engine);
+    return window && waitForItem(window, QStringLiteral("ControlButton")) ? window : nullptr;
+}
+
+QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page)
+{
+    QQuickWindow *window = loadLaunchedWindow(engine);
     if (!window)
         return nullptr;
     for (const QString &button : {QStringLiteral("ControlButton"), menuButton}) {
@@ -156,10 +212,40 @@ QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuBu
     return QTest::qWaitFor([&] { return topPage(window) == page; }) ? window : nullptr;
 }
 
+bool chooseInFileDialog(QQuickWindow *window, const QString &file)
+{
+    QObject *dialog = nullptr;
+    const bool shown = QTest::qWaitFor([&] {
+        for (QObject *object : window->findChildren<QObject *>()) {
+            if (object->inherits("QQuickFileDialogImpl") && object->property("visible").toBool())
+                dialog = object;
+        }
+        return dialog != nullptr;
+    });
+    return shown && dialog->setProperty("currentFolder", QUrl::fromLocalFile(QFileInfo(file).path()))
+        && dialog->setProperty("selectedFile", QUrl::fromLocalFile(file)) && QMetaObject::invokeMethod(dialog, "accept");
+}
+
+void typeText(QQuickWindow *window, const QString &text)
+{
+    for (const QChar c : text)
+        QTest::keyClick(window, c.toLatin1());
+}
+
 void dismissAlerts()
 {
     while (Alerts::shared().showing())
         Alerts::shared().dismiss(0);
+}
+
+int countPixels(const QImage &image, const std::function<bool(QRgb)> &counted)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += counted(image.pixel(x, y));
+    }
+    return count;
 }
 
 QStringList markedFragments(const QTextDocument &document)

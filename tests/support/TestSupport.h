@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QColor>
 #include <QStringList>
+#include <QVariantMap>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -29,6 +31,17 @@ private:
 // The message of the fatal stop that `action` ends in; empty when it ends normally.
 QString fatalStop(const std::function<void()> &action);
 
+// The file's bytes, or "<unreadable>" when it cannot be read (so a vanished file never equals an
+// empty one).
+QByteArray readFile(const QString &path);
+// Writes (replaces) the whole file; false when any byte fails.
+bool writeFile(const QString &path, const QByteArray &bytes);
+// Runs the statements on the SQLite file through a connection of its own, as another program
+// would: the first column of the last statement's rows, or "failed: ..." naming the failing one.
+QStringList sqlRun(const QString &path, const QStringList &statements);
+// Stores each preference as given.
+void setPreferences(const QVariantMap &preferences);
+
 // Makes the Larkwells QML module available to engines in the test.
 void importLarkwellsModule();
 
@@ -42,6 +55,8 @@ class QQuickWindow;
 class QQmlApplicationEngine;
 // The application's window as main.cpp loads it, once it is on screen; null when it fails.
 QQuickWindow *loadMainWindow(QQmlApplicationEngine &engine);
+// The same in the window.
+QQuickItem *findVisibleItem(QQuickWindow *window, const QString &objectName);
 // The visible item with this name once it has stopped moving (slid open, laid out), or null
 // after 15 s.
 QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName);
@@ -51,12 +66,23 @@ void click(QQuickWindow *window, QQuickItem *item);
 QQuickItem *currentScreen(QQuickWindow *window);
 // The object name of the screen on top, once the stack has stopped moving; empty while it moves.
 QString topPage(QQuickWindow *window);
+// The application's window past its first launch, once the cover shows; null when it fails.
+QQuickWindow *loadLaunchedWindow(QQmlApplicationEngine &engine);
 // The application's window past its first launch, with `page` opened from the cover's menu
 // button `menuButton`; null when any step fails.
 QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page);
 
+// Once the file dialog is on screen, chooses `file` in it and presses its button, as a user would.
+bool chooseInFileDialog(QQuickWindow *window, const QString &file);
+// Types the text key by key into whatever has the focus.
+void typeText(QQuickWindow *window, const QString &text);
+
 // Answers every alert showing, the first button each time.
 void dismissAlerts();
+
+class QImage;
+// How many pixels of the image satisfy `counted`.
+int countPixels(const QImage &image, const std::function<bool(QRgb)> &counted);
 
 class QTextDocument;
 // The pieces of the document's text set on a yellow background (the marked matches).

@@ -65,175 +65,167 @@ class TestNightReading : public QObject
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
-    void textOverEveryWallpaper_data();
-    void textOverEveryWallpaper();
-    void emptyCheckCircleOnTheCell();
-    void whenTheNightLookShows_data();
-    void whenTheNightLookShows();
-    void switchingOffRestoresTheLook();
-};
 
-void TestNightReading::textOverEveryWallpaper_data()
-{
-    QTest::addColumn<qint64>("code");
-    QTest::newRow("black") << qint64(0);
-    QTest::newRow("magenta") << qint64(1);
-    QTest::newRow("red") << qint64(2);
-    QTest::newRow("blue") << qint64(3);
-    QTest::newRow("a code outside the colours") << qint64(9);
-}
+    void textOverEveryWallpaper_data()
+    {
+        QTest::addColumn<qint64>("code");
+        QTest::newRow("black") << qint64(0);
+        QTest::newRow("magenta") << qint64(1);
+        QTest::newRow("red") << qint64(2);
+        QTest::newRow("blue") << qint64(3);
+        QTest::newRow("a code outside the colours") << qint64(9);
+    }
 
-// By day, text is read against the darker parts of the paper: all but its darkest 5 % of pixels.
-// By night, light text is read against the lightest pixel under the dimming surface, blended in
-// sRGB as the scene graph blends.
-void TestNightReading::textOverEveryWallpaper()
-{
-    QFETCH(qint64, code);
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"textColor"_s, code);
-    Preferences::write(PreferenceKeys::NightReading, true);
-    ReaderAppearance appearance;
-    appearance.read();
-    appearance.applyTextColor();
-    appearance.setNightPage(true);
-    const std::optional<QColor> day = textColorFor(code);
-    const QColor night = appearance.nightTextColor();
-    const QColor surface = appearance.nightSurfaceColor();
-    const double dim = appearance.wallpaperDim();
-    const auto mix = [dim](float c, float p) { return float(dim * c + (1 - dim) * p); };
-    double worstDay = 21;
-    double worstNight = contrast(night, surface);
-    for (const QString &name : Wallpapers::ViewerWallpaper()) {
-        const QImage paper = QImage(u":"_s + Bundle::main().imageUrl(name).path()).scaled(200, 200).convertToFormat(QImage::Format_RGB32);
-        QVERIFY2(!paper.isNull(), qPrintable(name));
-        std::vector<double> luminances;
-        for (int y = 0; y < paper.height(); ++y) {
-            for (int x = 0; x < paper.width(); ++x) {
-                const QColor pixel(paper.pixel(x, y));
-                luminances.push_back(Art::luminance(pixel.rgb()));
-                const QColor under = QColor::fromRgbF(mix(surface.redF(), pixel.redF()), mix(surface.greenF(), pixel.greenF()),
-                                                      mix(surface.blueF(), pixel.blueF()));
-                worstNight = std::min(worstNight, contrast(night, under));
+    // By day, text is read against the darker parts of the paper: all but its darkest 5 % of pixels.
+    // By night, light text is read against the lightest pixel under the dimming surface, blended in
+    // sRGB as the scene graph blends.
+    void textOverEveryWallpaper()
+    {
+        QFETCH(qint64, code);
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"textColor"_s, code);
+        Preferences::write(PreferenceKeys::NightReading, true);
+        ReaderAppearance appearance;
+        appearance.read();
+        appearance.applyTextColor();
+        appearance.setNightPage(true);
+        const std::optional<QColor> day = textColorFor(code);
+        const QColor night = appearance.nightTextColor();
+        const QColor surface = appearance.nightSurfaceColor();
+        const double dim = appearance.wallpaperDim();
+        const auto mix = [dim](float c, float p) { return float(dim * c + (1 - dim) * p); };
+        double worstDay = 21;
+        double worstNight = contrast(night, surface);
+        for (const QString &name : Wallpapers::ViewerWallpaper()) {
+            const QImage paper = QImage(u":"_s + Bundle::main().imageUrl(name).path()).scaled(200, 200).convertToFormat(QImage::Format_RGB32);
+            QVERIFY2(!paper.isNull(), qPrintable(name));
+            std::vector<double> luminances;
+            for (int y = 0; y < paper.height(); ++y) {
+                for (int x = 0; x < paper.width(); ++x) {
+                    const QColor pixel(paper.pixel(x, y));
+                    luminances.push_back(Art::luminance(pixel.rgb()));
+                    const QColor under = QColor::fromRgbF(mix(surface.redF(), pixel.redF()), mix(surface.greenF(), pixel.greenF()),
+                                                          mix(surface.blueF(), pixel.blueF()));
+                    worstNight = std::min(worstNight, contrast(night, under));
+                }
             }
+            const auto nth = luminances.begin() + std::ptrdiff_t(luminances.size() / 20);
+            std::nth_element(luminances.begin(), nth, luminances.end());
+            const double text = Art::luminance(day.value_or(QColor()).rgb());
+            if (day)
+                worstDay = std::min(worstDay, (std::max(text, *nth) + 0.05) / (std::min(text, *nth) + 0.05));
         }
-        const auto nth = luminances.begin() + std::ptrdiff_t(luminances.size() / 20);
-        std::nth_element(luminances.begin(), nth, luminances.end());
-        const double text = Art::luminance(day.value_or(QColor()).rgb());
-        if (day)
-            worstDay = std::min(worstDay, (std::max(text, *nth) + 0.05) / (std::min(text, *nth) + 0.05));
+        qInfo("%s: lowest contrast %.2f:1 by day, %.2f:1 by night", QTest::currentDataTag(), worstDay, worstNight);
+        QVERIFY(!day || worstDay >= 4.5);
+        QVERIFY(worstNight >= 7);
     }
-    qInfo("%s: lowest contrast %.2f:1 by day, %.2f:1 by night", QTest::currentDataTag(), worstDay, worstNight);
-    QVERIFY(!day || worstDay >= 4.5);
-    QVERIFY(worstNight >= 7);
-}
 
-void TestNightReading::emptyCheckCircleOnTheCell()
-{
-    importLarkwellsModule();
-    QQmlEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport Larkwells\nItem { property color cell: Theme.cellColor\n"
-                      "FavoriteBox { objectName: \"box\" } }", QUrl(u"qrc:/test/Box.qml"_s));
-    std::unique_ptr<QObject> root(component.create());
-    QVERIFY2(root, qPrintable(component.errorString()));
-    auto *box = findItem(qobject_cast<QQuickItem *>(root.get()), u"FavoriteCheckBox"_s);
-    QVERIFY(box);
-    const double ratio = contrast(box->property("secondaryTintColor").value<QColor>(), root->property("cell").value<QColor>());
-    qInfo("empty circle: %.2f:1", ratio);
-    QVERIFY(ratio >= 3);
-}
-
-void TestNightReading::whenTheNightLookShows_data()
-{
-    QTest::addColumn<QString>("reader");
-    QTest::addColumn<QVariant>("nightReading"); // invalid: never set
-    QTest::addColumn<bool>("nightPage");
-    QTest::addColumn<bool>("darkDesktop");
-    QTest::addColumn<bool>("night");
-    QTest::newRow("night page, switch on") << u"page"_s << QVariant(true) << true << false << true;
-    QTest::newRow("morning page, switch on") << u"page"_s << QVariant(true) << false << false << false;
-    QTest::newRow("night page, switch never set") << u"page"_s << QVariant() << true << false << false;
-    QTest::newRow("morning page, dark desktop") << u"page"_s << QVariant(true) << false << true << true;
-    QTest::newRow("dark desktop, switch off") << u"page"_s << QVariant(false) << false << true << false;
-    QTest::newRow("search, night page") << u"search"_s << QVariant(true) << true << false << true;
-    QTest::newRow("special day, morning") << u"special day"_s << QVariant(true) << false << false << false;
-    QTest::newRow("special day, night") << u"special day"_s << QVariant(true) << true << false << true;
-    QTest::newRow("about, night article") << u"about"_s << QVariant(true) << true << false << true;
-}
-
-void TestNightReading::whenTheNightLookShows()
-{
-    QFETCH(QString, reader);
-    QFETCH(QVariant, nightReading);
-    QFETCH(bool, nightPage);
-    QFETCH(bool, darkDesktop);
-    QFETCH(bool, night);
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"textColor"_s, 2);
-    if (nightReading.isValid())
-        Preferences::write(PreferenceKeys::NightReading, nightReading);
-    const QPalette before = QGuiApplication::palette();
-    if (darkDesktop) {
-        QPalette dark = before;
-        dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x24));
-        QGuiApplication::setPalette(dark);
+    void emptyCheckCircleOnTheCell()
+    {
+        importLarkwellsModule();
+        QQmlEngine engine;
+        engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport Larkwells\nItem { property color cell: Theme.cellColor\n"
+                          "FavoriteBox { objectName: \"box\" } }", QUrl(u"qrc:/test/Box.qml"_s));
+        std::unique_ptr<QObject> root(component.create());
+        QVERIFY2(root, qPrintable(component.errorString()));
+        auto *box = findItem(qobject_cast<QQuickItem *>(root.get()), u"FavoriteCheckBox"_s);
+        QVERIFY(box);
+        const double ratio = contrast(box->property("secondaryTintColor").value<QColor>(), root->property("cell").value<QColor>());
+        qInfo("empty circle: %.2f:1", ratio);
+        QVERIFY(ratio >= 3);
     }
-    selectPage(nightPage);
-    const bool shown = load(reader)->appearance()->night();
-    QGuiApplication::setPalette(before);
-    QCOMPARE(shown, night);
-    QCOMPARE(UserDefaults::standard().integerForKey(u"textColor"_s), 2); // the stored colour stays
-}
 
-// A night page in the real window: the day look, the night look, then the switch off again.
-void TestNightReading::switchingOffRestoresTheLook()
-{
-    TestEnvironment environment;
-    UserDefaults::standard().set(u"hasBeenLaunchedBeforeFlag"_s, true);
-    UserDefaults::standard().set(u"useWallpaper"_s, 1);
-    UserDefaults::standard().set(u"textColor"_s, 3);
-    // One wallpaper may be drawn, so every opening shows the same one.
-    for (const QString &name : Wallpapers::ViewerWallpaper())
-        UserDefaults::standard().set(name, name == u"Page1" ? u"true"_s : u"false"_s);
-    QQmlApplicationEngine engine;
-    QQuickWindow *window = loadMainWindow(engine);
-    QVERIFY(window);
-    QVERIFY(waitForItem(window, u"ControlButton"_s));
+    void whenTheNightLookShows_data()
+    {
+        QTest::addColumn<QString>("reader");
+        QTest::addColumn<QVariant>("nightReading"); // invalid: never set
+        QTest::addColumn<bool>("nightPage");
+        QTest::addColumn<bool>("darkDesktop");
+        QTest::addColumn<bool>("night");
+        QTest::newRow("night page, switch on") << u"page"_s << QVariant(true) << true << false << true;
+        QTest::newRow("morning page, switch on") << u"page"_s << QVariant(true) << false << false << false;
+        QTest::newRow("night page, switch never set") << u"page"_s << QVariant() << true << false << false;
+        QTest::newRow("morning page, dark desktop") << u"page"_s << QVariant(true) << false << true << true;
+        QTest::newRow("dark desktop, switch off") << u"page"_s << QVariant(false) << false << true << false;
+        QTest::newRow("search, night page") << u"search"_s << QVariant(true) << true << false << true;
+        QTest::newRow("special day, morning") << u"special day"_s << QVariant(true) << false << false << false;
+        QTest::newRow("special day, night") << u"special day"_s << QVariant(true) << true << false << true;
+        QTest::newRow("about, night article") << u"about"_s << QVariant(true) << true << false << true;
+    }
 
-    const auto look = [&] {
-        selectPage(true);
-        Navigator::shared().performSegue(u"ViewPoemSegue"_s);
-        QVariantMap shown;
-        if (!QTest::qWaitFor([&] { return topPage(window) == u"View"_s; }))
+    void whenTheNightLookShows()
+    {
+        QFETCH(QString, reader);
+        QFETCH(QVariant, nightReading);
+        QFETCH(bool, nightPage);
+        QFETCH(bool, darkDesktop);
+        QFETCH(bool, night);
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"textColor"_s, 2);
+        if (nightReading.isValid())
+            Preferences::write(PreferenceKeys::NightReading, nightReading);
+        const QPalette before = QGuiApplication::palette();
+        if (darkDesktop) {
+            QPalette dark = before;
+            dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x24));
+            QGuiApplication::setPalette(dark);
+        }
+        selectPage(nightPage);
+        const bool shown = load(reader)->appearance()->night();
+        QGuiApplication::setPalette(before);
+        QCOMPARE(shown, night);
+        QCOMPARE(UserDefaults::standard().integerForKey(u"textColor"_s), 2); // the stored colour stays
+    }
+
+    // A night page in the real window: the day look, the night look, then the switch off again.
+    void switchingOffRestoresTheLook()
+    {
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"useWallpaper"_s, 1);
+        UserDefaults::standard().set(u"textColor"_s, 3);
+        // One wallpaper may be drawn, so every opening shows the same one.
+        for (const QString &name : Wallpapers::ViewerWallpaper())
+            UserDefaults::standard().set(name, name == u"Page1" ? u"true"_s : u"false"_s);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+
+        const auto look = [&] {
+            selectPage(true);
+            Navigator::shared().performSegue(u"ViewPoemSegue"_s);
+            QVariantMap shown;
+            if (!QTest::qWaitFor([&] { return topPage(window) == u"View"_s; }))
+                return shown;
+            QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
+            QQuickItem *wallpaper = waitForItem(window, u"img"_s);
+            shown = {{u"text colour"_s, text->property("color")},
+                     {u"font"_s, text->property("font")},
+                     {u"wallpaper"_s, wallpaper->property("source")},
+                     {u"wallpaper shown"_s, wallpaper->isVisible()},
+                     {u"surface"_s, findItem(window->contentItem(), u"nightSurface"_s)->isVisible()},
+                     {u"dimmed"_s, findItem(window->contentItem(), u"nightDim"_s)->isVisible()}};
+            click(window, waitForItem(window, u"backButton"_s));
+            if (!QTest::qWaitFor([&] { return topPage(window) == u"CoverView"_s; }))
+                shown.clear();
             return shown;
-        QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
-        QQuickItem *wallpaper = waitForItem(window, u"img"_s);
-        shown = {{u"text colour"_s, text->property("color")},
-                 {u"font"_s, text->property("font")},
-                 {u"wallpaper"_s, wallpaper->property("source")},
-                 {u"wallpaper shown"_s, wallpaper->isVisible()},
-                 {u"surface"_s, findItem(window->contentItem(), u"nightSurface"_s)->isVisible()},
-                 {u"dimmed"_s, findItem(window->contentItem(), u"nightDim"_s)->isVisible()}};
-        click(window, waitForItem(window, u"backButton"_s));
-        if (!QTest::qWaitFor([&] { return topPage(window) == u"CoverView"_s; }))
-            shown.clear();
-        return shown;
-    };
+        };
 
-    const QVariantMap day = look();
-    QCOMPARE(day.value(u"text colour"_s).value<QColor>(), *textColorFor(3));
-    QVERIFY(day.value(u"wallpaper shown"_s).toBool());
+        const QVariantMap day = look();
+        QCOMPARE(day.value(u"text colour"_s).value<QColor>(), *textColorFor(3));
+        QVERIFY(day.value(u"wallpaper shown"_s).toBool());
 
-    Preferences::write(PreferenceKeys::NightReading, true);
-    const QVariantMap night = look();
-    QVERIFY(night.value(u"surface"_s).toBool() && night.value(u"dimmed"_s).toBool());
-    QCOMPARE(night.value(u"wallpaper"_s), day.value(u"wallpaper"_s)); // dimmed, not removed
-    QVERIFY(contrast(night.value(u"text colour"_s).value<QColor>(), Qt::white) < 2);
+        Preferences::write(PreferenceKeys::NightReading, true);
+        const QVariantMap night = look();
+        QVERIFY(night.value(u"surface"_s).toBool() && night.value(u"dimmed"_s).toBool());
+        QCOMPARE(night.value(u"wallpaper"_s), day.value(u"wallpaper"_s)); // dimmed, not removed
+        QVERIFY(contrast(night.value(u"text colour"_s).value<QColor>(), Qt::white) < 2);
 
-    Preferences::write(PreferenceKeys::NightReading, false);
-    QCOMPARE(look(), day);
-}
+        Preferences::write(PreferenceKeys::NightReading, false);
+        QCOMPARE(look(), day);
+    }
+};
 
 QTEST_MAIN(TestNightReading)
 #include "tst_nightreading.moc"
