@@ -3,8 +3,9 @@
 
 Presses every cover menu button through its action interface with the menu closed and open:
 hidden buttons must be absent or refuse, every other button shows under its spoken name and
-opens its screen once the menu is open, and the application must stay alive. Then marks a favourite on a list row and presses a segment of the page list,
-checking that the box reports its state and that the list changed.
+opens its screen once the menu is open, and the application must stay alive. Then marks a
+favourite on a list row and presses a segment of the page list, checking that the box reports
+its state and that the list changed.
 
 Run inside dbus-run-session and xvfb-run: atspi_cover.py LARKWELLS_BINARY
 Exits 77 (skipped) only when the accessibility bus cannot be reached at all.
