@@ -74,6 +74,8 @@ void Wallpapers::enableUnsetWallpapers()
         if (!defaults.object(name).isValid())
             missing.append({name, u"true"_s});
     }
+    // Written beside the cover's first frame: were the process to end first, the next start
+    // would find the same keys missing and write them again.
     if (!missing.isEmpty())
-        defaults.setValues(missing);
+        defaults.setValuesInBackground(missing);
 }
