@@ -118,14 +118,14 @@ void UserDefaults::load()
 void UserDefaults::write()
 {
     synchronize(); // an older background write must not land after this one
-    if (const auto reason = writeFile(m_filePath, serialized()))
+    if (const auto reason = writeFile(m_filePath, serialized(m_values)))
         writeFailed(*reason);
 }
 
-QByteArray UserDefaults::serialized() const
+QByteArray UserDefaults::serialized(const QHash<QString, QVariant> &values)
 {
     QJsonObject root;
-    for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+    for (auto it = values.begin(); it != values.end(); ++it) {
         const auto type = QMetaType::Type(it.value().typeId());
         root.insert(it.key(), QJsonObject{{u"type"_s, typeName(type)},
                                           {u"value"_s, QJsonValue::fromVariant(it.value())}});
@@ -235,7 +235,11 @@ void UserDefaults::setValuesInBackground(const QList<std::pair<QString, QVariant
 {
     store(values);
     synchronize();
-    m_backgroundWrite = std::async(std::launch::async, writeFile, m_filePath, serialized());
+    // A copy of the values (shared until either side changes them) is turned into bytes on the
+    // writing thread too: the caller waits for neither.
+    m_backgroundWrite = std::async(std::launch::async, [path = m_filePath, values = m_values] {
+        return writeFile(path, serialized(values));
+    });
 }
 
 void UserDefaults::store(const QList<std::pair<QString, QVariant>> &values)

@@ -60,7 +60,7 @@ private:
     void load();
     void store(const QList<std::pair<QString, QVariant>> &values);
     void write();
-    QByteArray serialized() const;
+    static QByteArray serialized(const QHash<QString, QVariant> &values);
     // Replaces the file with `bytes`; why it could not, or none.
     static std::optional<QString> writeFile(const QString &path, const QByteArray &bytes);
     [[noreturn]] void writeFailed(const QString &reason) const;
