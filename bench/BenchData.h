@@ -7,6 +7,7 @@
 #include "PersistentContainer.h"
 #include "UserDefaults.h"
 
+#include <QQuickStyle>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -21,11 +22,18 @@ inline void useOffscreenUnlessTold()
         qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
 }
 
+// The application's own style: its controls and transitions are what a screen costs.
+inline void useTheApplicationsStyle()
+{
+    QQuickStyle::setStyle(QStringLiteral("Material"));
+}
+
 struct BenchData {
     QTemporaryDir folder;
     BenchData()
     {
         Log::setSink([](const QString &) {});
+        useTheApplicationsStyle();
         UserDefaults::setStandardDirectory(folder.path());
         PersistentContainer::setDefaultDirectory(folder.path());
         AppDelegate::shared().reset();

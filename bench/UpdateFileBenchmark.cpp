@@ -207,6 +207,7 @@ int main(int argc, char **argv)
     useOffscreenUnlessTold();
     QGuiApplication app(argc, argv);
     Log::setSink([](const QString &) {});
+    useTheApplicationsStyle();
     benchmark::Initialize(&argc, argv);
     MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
