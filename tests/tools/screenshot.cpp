@@ -17,6 +17,7 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTest>
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -91,10 +92,8 @@ int main(int argc, char *argv[])
     const QStringList wh = parser.value(size).split(u'x');
     window->resize(wh.value(0).toInt(), wh.value(1).toInt());
     QTest::qWait(800);
-    for (const QString &step : parser.positionalArguments()) {
-        if (!runStep(window, step))
-            return EXIT_FAILURE;
-    }
-    AppDelegate::shared().reset();
-    return EXIT_SUCCESS;
+    const QStringList steps = parser.positionalArguments();
+    const bool done = std::all_of(steps.begin(), steps.end(), [window](const QString &step) { return runStep(window, step); });
+    AppDelegate::shared().reset(); // the store closes before the database driver goes
+    return done ? EXIT_SUCCESS : EXIT_FAILURE;
 }
