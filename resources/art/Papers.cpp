@@ -857,7 +857,8 @@ bool writePapers(const QString &directory)
         QImageWriter writer(QDir(directory).filePath(QStringLiteral("Page%1.jpg").arg(i + 1)), "jpg");
         writer.setQuality(88);
         writer.setOptimizedWrite(true);
-        writer.setProgressiveScanWrite(true);
+        // Baseline, not progressive: a progressive file is decoded whole at every size asked for,
+        // which makes a thumbnail five times slower and needs a full-size buffer meanwhile.
         if (!writer.write(paper(i)))
             return false;
     }

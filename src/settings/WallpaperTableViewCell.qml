@@ -46,7 +46,8 @@ ListCell {
             objectName: cell.outletPrefix + "ImageView"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            source: cell.image
+            // Not before the layout sizes it: a picture asked for at no size is decoded whole.
+            source: sourceSize.height > 0 ? cell.image : ""
             asynchronous: true
             fillMode: cell.wholePicture ? Image.PreserveAspectFit : Image.PreserveAspectCrop
             sourceSize.height: height * Screen.devicePixelRatio

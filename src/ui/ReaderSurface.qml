@@ -38,7 +38,8 @@ Flickable {
         objectName: "img"
         width: surface.width
         height: surface.contentHeight
-        source: surface.appearance.wallpaper
+        // Not before the page has its width: a picture asked for at no size is decoded whole.
+        source: sourceSize.width > 0 ? surface.appearance.wallpaper : ""
         fillMode: Image.PreserveAspectCrop
         sourceSize.width: Math.min(1600, surface.width * Screen.devicePixelRatio)
         asynchronous: true
