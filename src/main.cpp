@@ -1,6 +1,7 @@
 // The composition root: command line, data folder, bundle, services, and the window.
 #include "AppDelegate.h"
 #include "Bundle.h"
+#include "FileChooserLook.h"
 #include "FirstFrameReport.h"
 #include "PersistentContainer.h"
 #include "RemindCommand.h"
@@ -188,6 +189,7 @@ int main(int argc, char *argv[])
 
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s); // not a default import path before Qt 6.5
+    FileChooserLook::install(engine);
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,
                      [] { QCoreApplication::exit(EXIT_FAILURE); }, Qt::QueuedConnection);
     engine.load(QUrl(u"qrc:/qt/qml/Larkwells/app/Main.qml"_s));

@@ -5,6 +5,7 @@ list(APPEND LARKWELLS_SOURCES
     platform/Clock.h platform/Clock.cpp
     platform/Device.h platform/Device.cpp
     platform/FatalError.h platform/FatalError.cpp
+    platform/FileChooserLook.h platform/FileChooserLook.cpp
     platform/Fonts.h platform/Fonts.cpp
     platform/Log.h platform/Log.cpp
     platform/Mail.h platform/Mail.cpp

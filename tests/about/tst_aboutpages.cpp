@@ -139,6 +139,11 @@ private Q_SLOTS:
         QVERIFY(picker);
         QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
         QVERIFY(!waitForItem(window, u"ImportButton"_s)->isEnabled());
+        // On a phone-wide window a file's date stands clear of its size.
+        QVERIFY(window->width() < 480 && fileDialogShowing(window, folder.path()));
+        QQuickItem *size = waitForItem(window, u"fileSize"_s);
+        QQuickItem *date = findVisibleItem(window, u"fileDate"_s);
+        QVERIFY(date && date->mapToScene({}).x() >= size->mapToScene({size->width(), 0}).x());
         QVERIFY(chooseInFileDialog(window, picked)); // the picker's own dialog
         QTRY_COMPARE(findVisibleItem(window, u"ImportTextView"_s)->property("text").toString(),
                      u"[ABOUT]\nImported^From the file\n"_s);

@@ -5,6 +5,7 @@
 #include "Bundle.h"
 #include "Clock.h"
 #include "FatalError.h"
+#include "FileChooserLook.h"
 #include "Log.h"
 #include "PersistentContainer.h"
 #include "Selection.h"
@@ -186,6 +187,7 @@ QQuickWindow *loadMainWindow(QQmlApplicationEngine &engine)
 {
     importLarkwellsModule();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml")); // not a default import path before Qt 6.5
+    FileChooserLook::install(engine);
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Larkwells/app/Main.qml")));
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
@@ -212,7 +214,7 @@ QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuBu
     return QTest::qWaitFor([&] { return topPage(window) == page; }) ? window : nullptr;
 }
 
-bool chooseInFileDialog(QQuickWindow *window, const QString &file)
+QObject *fileDialogShowing(QQuickWindow *window, const QString &folder)
 {
     QObject *dialog = nullptr;
     const bool shown = QTest::qWaitFor([&] {
@@ -222,8 +224,13 @@ bool chooseInFileDialog(QQuickWindow *window, const QString &file)
         }
         return dialog != nullptr;
     });
-    return shown && dialog->setProperty("currentFolder", QUrl::fromLocalFile(QFileInfo(file).path()))
-        && dialog->setProperty("selectedFile", QUrl::fromLocalFile(file)) && QMetaObject::invokeMethod(dialog, "accept");
+    return shown && dialog->setProperty("currentFolder", QUrl::fromLocalFile(folder)) ? dialog : nullptr;
+}
+
+bool chooseInFileDialog(QQuickWindow *window, const QString &file)
+{
+    QObject *dialog = fileDialogShowing(window, QFileInfo(file).path());
+    return dialog && dialog->setProperty("selectedFile", QUrl::fromLocalFile(file)) && QMetaObject::invokeMethod(dialog, "accept");
 }
 
 void typeText(QQuickWindow *window, const QString &text)

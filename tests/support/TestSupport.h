@@ -72,6 +72,9 @@ QQuickWindow *loadLaunchedWindow(QQmlApplicationEngine &engine);
 // button `menuButton`; null when any step fails.
 QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page);
 
+// The file dialog once it is on screen, showing `folder`; null when none shows.
+QObject *fileDialogShowing(QQuickWindow *window, const QString &folder);
+
 // Once the file dialog is on screen, chooses `file` in it and presses its button, as a user would.
 bool chooseInFileDialog(QQuickWindow *window, const QString &file);
 // Types the text key by key into whatever has the focus.

@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Controls.impl
+import QtQuick.Dialogs.quickimpl as DialogsQuickImpl
+
+// A file row of the file chooser: its icon and name, and under the name its size at the left
+// and its date at the right of the row itself.
+Item {
+    id: root
+    implicitWidth: nameRow.implicitWidth
+    implicitHeight: column.implicitHeight
+
+    required property DialogsQuickImpl.FileDialogDelegate delegate
+    // Given by the chooser (the filter box's width); the row's own width is used instead.
+    required property int fileDetailRowWidth
+    property color fileDetailRowTextColor
+
+    Column {
+        id: column
+        width: root.width
+        y: (root.height - height) / 2
+
+        Row {
+            id: nameRow
+            spacing: root.delegate.spacing
+
+            IconImage {
+                id: iconImage
+                source: root.delegate.icon.source
+                sourceSize: Qt.size(root.delegate.icon.width, root.delegate.icon.height)
+                width: root.delegate.icon.width
+                height: root.delegate.icon.height
+                color: root.delegate.icon.color
+                y: (parent.height - height) / 2
+            }
+            Label {
+                width: Math.min(implicitWidth, root.width - iconImage.width - nameRow.spacing)
+                text: root.delegate.fileName
+                elide: Text.ElideMiddle
+                color: root.delegate.icon.color
+                y: (parent.height - height) / 2
+            }
+        }
+
+        Item {
+            x: iconImage.width + root.delegate.spacing
+            width: root.width - x
+            implicitHeight: Math.max(size.implicitHeight, date.implicitHeight)
+
+            Label {
+                id: size
+                objectName: "fileSize"
+                text: locale.formattedDataSize(root.delegate.fileSize)
+                font.pixelSize: root.delegate.font.pixelSize * 0.75
+                color: root.fileDetailRowTextColor
+            }
+            Label {
+                id: date
+                objectName: "fileDate"
+                x: Math.max(size.width + 8, parent.width - width)
+                text: Qt.formatDateTime(root.delegate.fileModified)
+                font.pixelSize: root.delegate.font.pixelSize * 0.75
+                color: root.fileDetailRowTextColor
+            }
+        }
+    }
+}
