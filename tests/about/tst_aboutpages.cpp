@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(window->width() < 480 && fileDialogShowing(window, folder.path()));
         QQuickItem *size = waitForItem(window, u"fileSize"_s);
         QQuickItem *date = findVisibleItem(window, u"fileDate"_s);
-        QVERIFY(date && date->mapToScene({}).x() >= size->mapToScene({size->width(), 0}).x());
+        QVERIFY(size && date && date->mapToScene({}).x() >= size->mapToScene({size->width(), 0}).x());
         QVERIFY(chooseInFileDialog(window, picked)); // the picker's own dialog
         QTRY_COMPARE(findVisibleItem(window, u"ImportTextView"_s)->property("text").toString(),
                      u"[ABOUT]\nImported^From the file\n"_s);
