@@ -46,11 +46,12 @@ ListCell {
             objectName: cell.outletPrefix + "ImageView"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            // Not before the layout sizes it: a picture asked for at no size is decoded whole.
-            source: sourceSize.height > 0 ? cell.image : ""
+            source: cell.image
             asynchronous: true
             fillMode: cell.wholePicture ? Image.PreserveAspectFit : Image.PreserveAspectCrop
-            sourceSize.height: height * Screen.devicePixelRatio
+            // The row's own height, known before the layout sizes the picture: a picture asked
+            // for at no size would be decoded whole.
+            sourceSize.height: (cell.rowHeight - cell.topPadding - cell.bottomPadding) * Screen.devicePixelRatio
             Accessible.ignored: true
         }
         ColumnLayout {

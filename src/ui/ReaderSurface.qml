@@ -38,10 +38,11 @@ Flickable {
         objectName: "img"
         width: surface.width
         height: surface.contentHeight
-        // Not before the page has its width: a picture asked for at no size is decoded whole.
-        source: sourceSize.width > 0 ? surface.appearance.wallpaper : ""
+        // Not before the page has its width, and never asked for at no size, which would decode
+        // the whole picture.
+        source: surface.width > 0 ? surface.appearance.wallpaper : ""
         fillMode: Image.PreserveAspectCrop
-        sourceSize.width: Math.min(1600, surface.width * Screen.devicePixelRatio)
+        sourceSize.width: Math.min(1600, Math.max(1, surface.width) * Screen.devicePixelRatio)
         asynchronous: true
         visible: status === Image.Ready
 
