@@ -27,11 +27,6 @@ QString writePicked(const QTemporaryDir &folder, const QByteArray &bytes)
     return writeFile(path, bytes) ? path : QString();
 }
 
-QByteArray golden(const QString &name)
-{
-    return readFile(QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name);
-}
-
 // A stand-in for xdg-email on PATH: records its arguments, ends with the status asked for. The
 // files handed to it are written to its folder.
 class FakeMailer
@@ -157,8 +152,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<bool>("left");
-        QTest::newRow("morning authors") << u"Good Morning Authors"_s
-                                         << u"From The Larkwells\nGood Morning Authors\n\nT"_s << true;
         QTest::newRow("morning preface") << u"Good Morning Preface"_s << u"From The Larkwells\n Good Morning \n\n T"_s
                                          << false;
         QTest::newRow("night preface") << u"Preface Good Night"_s << u"From The Larkwells\n Good Night \n\n T"_s << false;

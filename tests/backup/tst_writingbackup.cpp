@@ -66,16 +66,6 @@ QStringList storedWriting()
     return rows;
 }
 
-QString goldenPath(const QString &name)
-{
-    return QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name;
-}
-
-QByteArray golden(const QString &name)
-{
-    return readFile(goldenPath(name));
-}
-
 void setPage(int month, int day, const QString &ampm, const std::optional<QString> &favorite,
              const std::optional<QString> &text)
 {

@@ -76,25 +76,15 @@ QString storeFile(const QString &directory)
 class StoreReader
 {
 public:
-    explicit StoreReader(const QString &directory)
+    explicit StoreReader(const QString &directory) : m_path(storeFile(directory))
     {
         QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"reader"_s);
-        database.setDatabaseName(storeFile(directory));
+        database.setDatabaseName(m_path);
         database.open();
     }
     ~StoreReader() { QSqlDatabase::removeDatabase(u"reader"_s); }
 
-    QStringList integrity() const { return column(u"PRAGMA integrity_check"_s); }
-    QStringList column(const QString &sql) const
-    {
-        QSqlQuery query(QSqlDatabase::database(u"reader"_s));
-        QStringList values;
-        if (!query.exec(sql))
-            return {u"failed: "_s + sql};
-        while (query.next())
-            values.append(query.value(0).toString());
-        return values;
-    }
+    QStringList integrity() const { return sqlRun(m_path, {u"PRAGMA integrity_check"_s}); }
 
     // Where the store differs from `expected`, empty when it does not.
     QString difference(const Expected &expected) const
@@ -126,6 +116,9 @@ public:
             return u"%1 notes instead of %2"_s.arg(seen.size()).arg(expected.notes.size());
         return {};
     }
+
+private:
+    QString m_path;
 };
 
 QString preferencesDifference(const QString &directory, const Expected &expected)

@@ -34,6 +34,11 @@ QString fatalStop(const std::function<void()> &action);
 // The file's bytes, or "<unreadable>" when it cannot be read (so a vanished file never equals an
 // empty one).
 QByteArray readFile(const QString &path);
+#ifdef LARKWELLS_TEST_DIR
+// A file of the test folder's golden/ set, which the written files must match byte for byte.
+inline QString goldenPath(const QString &name) { return QStringLiteral(LARKWELLS_TEST_DIR "/golden/") + name; }
+inline QByteArray golden(const QString &name) { return readFile(goldenPath(name)); }
+#endif
 // Writes (replaces) the whole file; false when any byte fails.
 bool writeFile(const QString &path, const QByteArray &bytes);
 // Runs the statements on the SQLite file through a connection of its own, as another program
