@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Controls.impl
-import QtQuick.Dialogs.quickimpl as DialogsQuickImpl
 
 // A file row of the file chooser: its icon and name, and under the name its size at the left
 // and its date at the right of the row itself.
@@ -10,7 +9,8 @@ Item {
     implicitWidth: nameRow.implicitWidth
     implicitHeight: column.implicitHeight
 
-    required property DialogsQuickImpl.FileDialogDelegate delegate
+    // The chooser's row (a file dialog delegate, whose file properties its style declares).
+    required property var delegate
     // Given by the chooser (the filter box's width); the row's own width is used instead.
     required property int fileDetailRowWidth
     property color fileDetailRowTextColor
@@ -27,7 +27,8 @@ Item {
             IconImage {
                 id: iconImage
                 source: root.delegate.icon.source
-                sourceSize: Qt.size(root.delegate.icon.width, root.delegate.icon.height)
+                sourceSize.width: root.delegate.icon.width
+                sourceSize.height: root.delegate.icon.height
                 width: root.delegate.icon.width
                 height: root.delegate.icon.height
                 color: root.delegate.icon.color
@@ -50,7 +51,7 @@ Item {
             Label {
                 id: size
                 objectName: "fileSize"
-                text: locale.formattedDataSize(root.delegate.fileSize)
+                text: root.delegate.locale.formattedDataSize(root.delegate.fileSize)
                 font.pixelSize: root.delegate.font.pixelSize * 0.75
                 color: root.fileDetailRowTextColor
             }
