@@ -2,9 +2,10 @@ import QtQuick
 import QtQuick.Controls
 import Larkwells
 
-// A row's "Good Morning:   Page#  12" label, in two columns so that the numbers line up row
-// under row whatever the font. Where the two columns do not fit (a large list font on a phone)
-// the label wraps, centred, and keeps every word.
+// A row's "Good Morning:   Page#  12" label, placed so that the numbers line up row under row
+// whatever the font: the words end, and the number starts, at one column. One text, not two:
+// rows are made as fast as a flick brings them. Where the line does not fit (a large list font
+// on a phone) the label wraps, centred, and keeps every word.
 Item {
     id: pageLabel
     required property string text
@@ -12,52 +13,40 @@ Item {
     property real fontSize: 15
     readonly property string number: (text.match(/\d+$/) || [""])[0]
     readonly property bool inColumns: number.length > 0
-                                      && prefixWidth.advanceWidth + numberWidth.advanceWidth <= width
+                                      && columnWidth.advanceWidth + numberWidth.advanceWidth <= width
 
-    implicitHeight: inColumns ? prefixLabel.implicitHeight : wrapped.implicitHeight
+    implicitHeight: label.implicitHeight
 
+    // The words of every row end at the width of the longest.
     TextMetrics {
-        id: prefixWidth
-        font: prefixLabel.font
+        id: columnWidth
+        font: label.font
         text: "Good Morning:   Page#  "
     }
     TextMetrics {
         id: numberWidth
-        font: prefixLabel.font
+        font: label.font
         text: "0000"
     }
-    Row {
-        anchors.horizontalCenter: parent.horizontalCenter
-        visible: pageLabel.inColumns
-        Label {
-            id: prefixLabel
-            objectName: "PageWords"
-            width: prefixWidth.advanceWidth
-            text: pageLabel.text.slice(0, pageLabel.text.length - pageLabel.number.length)
-            color: "black"
-            horizontalAlignment: Text.AlignRight
-            font.family: pageLabel.fontName
-            font.pixelSize: pageLabel.fontSize
-            textFormat: Text.PlainText
-        }
-        Label {
-            width: numberWidth.advanceWidth
-            text: pageLabel.number
-            color: "black"
-            font: prefixLabel.font
-        }
+    TextMetrics {
+        id: wordsWidth
+        font: label.font
+        text: pageLabel.inColumns ? pageLabel.text.slice(0, pageLabel.text.length - pageLabel.number.length) : ""
     }
     Label {
-        id: wrapped
+        id: label
         objectName: "PageWords"
-        width: parent.width
-        visible: !pageLabel.inColumns
-        // Laid out only when shown: most rows fit in columns.
-        text: pageLabel.inColumns ? "" : pageLabel.text.trim()
+        x: pageLabel.inColumns
+           ? (pageLabel.width - columnWidth.advanceWidth - numberWidth.advanceWidth) / 2
+             + columnWidth.advanceWidth - wordsWidth.advanceWidth
+           : 0
+        width: pageLabel.inColumns ? implicitWidth : pageLabel.width
+        text: pageLabel.inColumns ? pageLabel.text : pageLabel.text.trim()
         color: "black"
-        horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.Wrap
-        font: prefixLabel.font
+        horizontalAlignment: pageLabel.inColumns ? Text.AlignLeft : Text.AlignHCenter
+        wrapMode: pageLabel.inColumns ? Text.NoWrap : Text.Wrap
+        font.family: pageLabel.fontName
+        font.pixelSize: pageLabel.fontSize
         textFormat: Text.PlainText
     }
 }
