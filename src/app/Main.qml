@@ -66,15 +66,26 @@ ApplicationWindow {
         window.buildLater(page, aheadHolder, () => window.aheadPage === page, screen => window.aheadScreen = screen)
     }
     // Compiles and builds the component at `url` in the frames to come, never holding one up;
-    // `take` gets the object while `wanted` still holds, else it is destroyed.
+    // `take` gets the object while `wanted` still holds, else it is destroyed. A component that
+    // cannot be built hands `take` null (with a warning), so that a later wish can try again.
     function buildLater(url: string, parent: QtObject, wanted, take) {
         const component = Qt.createComponent(url, Component.Asynchronous)
+        const failed = reason => {
+            console.warn("cannot build " + url + ": " + reason)
+            take(null)
+        }
         // The window may be gone (closed while a build was under way).
         const incubate = () => {
-            if (!window || component.status !== Component.Ready || !wanted())
+            if (!window || component.status === Component.Loading || !wanted())
                 return
+            if (component.status !== Component.Ready) {
+                failed(component.errorString())
+                return
+            }
             const incubator = component.incubateObject(parent, {}, Qt.Asynchronous)
             incubator.onStatusChanged = status => {
+                if (status === Component.Error)
+                    failed("its object could not be made")
                 if (status !== Component.Ready)
                     return
                 if (window && wanted())
@@ -134,7 +145,10 @@ ApplicationWindow {
         if (!Alerts.showing || alertDialog || alertDialogComing)
             return
         alertDialogComing = true
-        buildLater("../platform/AlertDialog.qml", window, () => true, dialog => window.alertDialog = dialog)
+        buildLater("../platform/AlertDialog.qml", window, () => true, dialog => {
+            window.alertDialog = dialog
+            window.alertDialogComing = false
+        })
     }
     Connections {
         target: Sharing

@@ -39,6 +39,25 @@ Dialog {
     }
     width: Math.min(parent ? parent.width - 48 : 360, 420)
 
+    // The title wraps rather than being cut short on a phone. Laid out at the dialog's own width:
+    // the style's title, laid out at the width its header is given, changed height while the
+    // dialog was still sizing itself to it (a binding loop when the window resized).
+    header: Item {
+        implicitHeight: dialog.title ? titleLabel.implicitHeight + titleLabel.y : 0
+        Label {
+            id: titleLabel
+            objectName: "alertTitle"
+            x: dialog.leftPadding
+            y: dialog.topPadding + 4
+            width: dialog.width - dialog.leftPadding - dialog.rightPadding
+            visible: dialog.title.length > 0
+            text: dialog.title
+            wrapMode: Text.Wrap
+            font.bold: true
+            font.pixelSize: 16
+        }
+    }
+
     contentItem: Label {
         text: Alerts.message
         wrapMode: Text.WordWrap
@@ -48,6 +67,7 @@ Dialog {
     }
 
     footer: DialogButtonBox {
+        background: null // the card's own, border included, shows through
         Repeater {
             model: Alerts.buttons
             delegate: Button {

@@ -132,6 +132,41 @@ private Q_SLOTS:
         QCOMPARE(completed, std::optional(true));
     }
 
+    // An alert raised while its window is still being sized opens without a warning, its title
+    // whole (the style's title, cut short on a phone, changed height while the dialog was sizing
+    // itself to it: a binding loop).
+    void alertOpensWhileItsWindowIsSized_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("phone") << 360;
+        QTest::newRow("tablet") << 1024;
+    }
+
+    void alertOpensWhileItsWindowIsSized()
+    {
+        QFETCH(int, width);
+        TestEnvironment environment;
+        Alerts::shared().present({u"Initial Setup Recomendations?"_s,
+                                  u"It's recommended that you go to the User Defaults Menu and turn on wallpapers."_s,
+                                  {u"Ok"_s}, {}});
+        QQmlEngine engine;
+        engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&engine);
+        component.setData(QStringLiteral("import QtQuick\nimport QtQuick.Controls\nimport Larkwells\n"
+                                         "ApplicationWindow { width: %1; height: 640; visible: true\n"
+                                         "AlertDialog { Component.onCompleted: open() } }").arg(width).toUtf8(),
+                          QUrl(u"qrc:/test/AlertWindow.qml"_s));
+        std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(window, qPrintable(component.errorString()));
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
+        QTRY_VERIFY(dialog->property("opened").toBool());
+        QQuickItem *title = findItem(dialog->property("header").value<QQuickItem *>(), u"alertTitle"_s);
+        QVERIFY(title);
+        QCOMPARE(title->property("text").toString(), u"Initial Setup Recomendations?"_s);
+        QVERIFY(!title->property("truncated").toBool());
+    }
+
 private:
     std::unique_ptr<QQuickWindow> showSheet(QQmlEngine &engine)
     {
