@@ -15,6 +15,14 @@ Item {
     required property int fileDetailRowWidth
     property color fileDetailRowTextColor
 
+    // Qt's row has no text of its own, so a screen reader found it nameless: it is the file's
+    // name (this row shows the name itself, not the row's text).
+    Binding {
+        target: root.delegate
+        property: "text"
+        value: root.delegate.fileName
+    }
+
     Column {
         id: column
         width: root.width
@@ -38,6 +46,7 @@ Item {
                 width: Math.min(implicitWidth, root.width - iconImage.width - nameRow.spacing)
                 text: root.delegate.fileName
                 elide: Text.ElideMiddle
+                Accessible.ignored: true // the row bears the name
                 color: root.delegate.icon.color
                 y: (parent.height - height) / 2
             }
