@@ -31,12 +31,7 @@ Dialog {
     }
     title: Alerts.title
     // A plain card: the style's soft shadow left scraps behind on small windows.
-    background: Rectangle {
-        radius: 4
-        color: "white"
-        border.width: 1
-        border.color: "#9a9a9a"
-    }
+    background: DialogCard {}
     width: Math.min(parent ? parent.width - 48 : 360, 420)
 
     // The title wraps rather than being cut short on a phone. Laid out at the dialog's own width:

@@ -11,9 +11,17 @@ class RowInterceptor : public QQmlAbstractUrlInterceptor
 public:
     QUrl intercept(const QUrl &url, DataType type) override
     {
-        static const QUrl qtsRow(u"qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/qml/FileDialogDelegateLabel.qml"_s);
-        static const QUrl ours(u"qrc:/larkwells/chooser/FileDialogDelegateLabel.qml"_s);
-        return type == QmlFile && url == qtsRow ? ours : url;
+        static const QString qts = u"qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/qml/"_s;
+        static const QString ours = u"qrc:/larkwells/chooser/"_s;
+        static const QStringList replaced{u"FileDialog.qml"_s, u"FileDialogDelegateLabel.qml"_s};
+        if (type != QmlFile)
+            return url;
+        const QString address = url.toString();
+        for (const QString &name : replaced) {
+            if (address == qts + name)
+                return QUrl(ours + name);
+        }
+        return url;
     }
 };
 }

@@ -13,6 +13,7 @@ Item {
         objectName: "saveCopyDialog"
         title: qsTr("Save a Copy")
         fileMode: FileDialog.SaveFile
+        acceptLabel: qsTr("Save")
         currentFolder: Sharing.documentsFolder
         selectedFile: Sharing.suggestedCopy
         onAccepted: Sharing.saveCopy(selectedFile)

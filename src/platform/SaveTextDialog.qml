@@ -13,6 +13,7 @@ Item {
         objectName: "saveTextDialog"
         title: qsTr("Save as Text File")
         fileMode: FileDialog.SaveFile
+        acceptLabel: qsTr("Save")
         defaultSuffix: "txt"
         nameFilters: [qsTr("Text files (*.txt)")]
         onAccepted: Sharing.saveToFile(selectedFile)

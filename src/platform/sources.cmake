@@ -19,6 +19,7 @@ list(APPEND LARKWELLS_SOURCES
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
+    platform/DialogCard.qml
     platform/SaveCopyDialog.qml
     platform/SaveTextDialog.qml
     platform/ShareSheet.qml
