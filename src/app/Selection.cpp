@@ -35,5 +35,6 @@ void Selection::clear()
     m_editNoteYear = decltype(m_editNoteYear)();
     m_editNoteMonth = decltype(m_editNoteMonth)();
     m_editNoteDay = decltype(m_editNoteDay)();
+    m_editNoteChosen = decltype(m_editNoteChosen)();
     Q_EMIT changed();
 }

@@ -80,6 +80,9 @@ public:
     void setEditNoteMonth(qint16 value) { assign(m_editNoteMonth, value); }
     qint16 editNoteDay() const { return m_editNoteDay; }
     void setEditNoteDay(qint16 value) { assign(m_editNoteDay, value); }
+    // Whether the editor opens on a note tapped in the list, rather than for a new one.
+    bool editNoteChosen() const { return m_editNoteChosen; }
+    void setEditNoteChosen(bool value) { assign(m_editNoteChosen, value); }
 
     // Back to the values of a fresh start.
     void clear();
@@ -119,4 +122,5 @@ private:
     qint16 m_editNoteYear{};
     qint16 m_editNoteMonth{};
     qint16 m_editNoteDay{};
+    bool m_editNoteChosen{};
 };

@@ -141,7 +141,9 @@ bool EditNotesViewController::save()
         Predicate::equals(u"subject"_s, stored(selection.editNoteSubject())),
     });
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    const QList<Notes *> Results = context.fetch<Notes>(request);
+    // A new note is never looked up: before a page is opened it would find, and overwrite, an
+    // earlier new note without a subject (both of day 0 of month 0).
+    const QList<Notes *> Results = selection.editNoteChosen() ? context.fetch<Notes>(request) : QList<Notes *>();
 
     if (Results.isEmpty()) {
         // A new note: the page's day and time of day, no year or date until it is edited.

@@ -47,6 +47,7 @@ void NotesTableViewController::viewWillAppear()
     selection.setEditNoteMonth(0);
     selection.setEditNoteDay(0);
     selection.setEditNoteDate(QDateTime());
+    selection.setEditNoteChosen(false);
     fetch();
 }
 
@@ -140,6 +141,7 @@ void NotesTableViewController::didSelectRowAt(int row)
     selection.setEditNoteMonth(note->month());
     selection.setEditNoteDay(note->day());
     selection.setEditNoteYear(note->year());
+    selection.setEditNoteChosen(true);
     Navigator::shared().performSegue(u"EditNotesSegue"_s);
 }
 

@@ -8,8 +8,10 @@
 #include "TestSupport.h"
 
 #include <QAbstractItemModelTester>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -254,6 +256,52 @@ private Q_SLOTS:
         QCOMPARE(storedNotes(), expected);
         QCOMPARE(unwinds.size(), 1);
         QCOMPARE(unwinds.first().first().toString(), u"unwindToNotesSegue"_s);
+    }
+
+    void newNotesBeforeAnyPageIsOpenedStayApart()
+    {
+        // Before a page is opened a new note is of day 0 of month 0, as the editor's empty key is.
+        TestEnvironment environment;
+        for (const QString &text : {u"one"_s, u"two"_s}) {
+            NotesTableViewController list;
+            list.viewWillAppear();
+            list.AddButtonClicked();
+            EditNotesViewController editor;
+            editor.viewDidLoad();
+            editor.setNotesTextView(text);
+            editor.SaveButtonClicked();
+        }
+        QCOMPARE(storedNotes(), (QStringList{u"|one|-|-|0|0|0|"_s, u"|two|-|-|0|0|0|"_s}));
+    }
+
+    void aNoteKeepsItsDayInTheEvening()
+    {
+        // An evening in New York is already the next day in UTC, where the store keeps its times.
+        const QByteArray zone = qgetenv("TZ");
+        qputenv("TZ", "America/New_York");
+        tzset();
+        const auto restore = qScopeGuard([&] {
+            zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
+            tzset();
+        });
+        TestEnvironment environment;
+        Clock::set([] { return QDateTime(QDate(2026, 11, 23), QTime(20, 7)); });
+        Selection::shared().setSelectedMonth(11);
+        Selection::shared().setSelectedDay(23);
+        Selection::shared().setSelectedAmpm(u"PM"_s);
+        insertNotes({u"Walk|by the river|-|-|0|11|23|PM"_s});
+        // Opened and saved untouched twice: the first save gives it a date, the second reads it back.
+        for (int visit = 0; visit < 2; ++visit) {
+            NotesTableViewController list;
+            list.viewWillAppear();
+            list.didSelectRowAt(0);
+            EditNotesViewController editor;
+            editor.viewDidLoad();
+            QCOMPARE(editor.DateTextField(), u"Monday, November 23, 2026"_s);
+            editor.DateEntered();
+            editor.SaveButtonClicked();
+        }
+        QCOMPARE(storedNotes(), QStringList{u"Walk|by the river|Monday, November 23, 2026|2026-11-23|2026|11|23|PM"_s});
     }
 
     void dateTextFollowsTheLocale_data()

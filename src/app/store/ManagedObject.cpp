@@ -55,7 +55,7 @@ void ManagedObject::setValueForKey(const QString &key, const QVariant &value)
         switch (*type) {
         case AttributeType::String: stored = value.toString(); break;
         case AttributeType::Integer16: stored = int(qint16(value.toInt())); break;
-        case AttributeType::Date: stored = value.toDateTime().toUTC(); break;
+        case AttributeType::Date: stored = value.toDateTime().toLocalTime(); break; // as read back
         }
     }
     m_values.insert(key, stored);

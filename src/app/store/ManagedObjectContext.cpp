@@ -35,7 +35,9 @@ QVariant fromColumn(AttributeType type, const QVariant &value)
     switch (type) {
     case AttributeType::String: return value.toString();
     case AttributeType::Integer16: return int(qint16(value.toInt()));
-    case AttributeType::Date: return QDateTime::fromString(value.toString(), Qt::ISODate).toUTC();
+    // Kept in UTC, read back in local time, as every date the screens make is: a note's
+    // calendar day is the reader's day, not Greenwich's.
+    case AttributeType::Date: return QDateTime::fromString(value.toString(), Qt::ISODate).toLocalTime();
     }
     return {};
 }
