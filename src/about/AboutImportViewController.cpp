@@ -6,6 +6,7 @@
 #include "AppDelegate.h"
 #include "FatalError.h"
 #include "Log.h"
+#include "PreferenceKeys.h"
 #include "Navigator.h"
 #include "StoreSnapshots.h"
 #include "TableClearing.h"
@@ -81,6 +82,9 @@ void AboutImportViewController::clearAboutTable()
         AboutImportUndo::shared().importStarted(*snapshot);
     const auto container = loadedContainer();
     TableClearing::deleteEachSaving<About>(container->viewContext());
+    // The articles are the imported ones from now on: the about list's first visit must not
+    // seed the book's own over them.
+    Preferences::write(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, true);
 }
 
 void AboutImportViewController::ImportButtonClicked()

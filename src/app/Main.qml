@@ -114,8 +114,9 @@ ApplicationWindow {
             }
         }
         function onUnwindRequested(identifier: string) {
-            // Back to the nearest screen below that accepts this unwind, which then hears of it.
-            for (let i = stack.depth - 2; i >= 0; --i) {
+            // Back to the nearest screen that accepts this unwind, which then hears of it. A
+            // screen already shown stays (a second alert's OK after the first has gone back).
+            for (let i = stack.depth - 1; i >= 0; --i) {
                 const screen = stack.get(i, StackView.DontLoad)
                 if (screen && screen.unwindTargets && screen.unwindTargets.indexOf(identifier) >= 0) {
                     stack.pop(screen)
@@ -123,8 +124,13 @@ ApplicationWindow {
                     return
                 }
             }
-            // Reached another way (the about file screen from the export menu): back one screen.
-            stack.pop()
+            // Reached another way (the about file screen from the export menu): the screen gives
+            // way to the one the unwind is for, freshly made.
+            const page = Navigator.unwindPage(identifier)
+            if (page)
+                stack.replace(page)
+            else
+                stack.pop()
         }
         function onPopToRootRequested() {
             stack.pop(null)

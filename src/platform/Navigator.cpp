@@ -48,6 +48,12 @@ QString Navigator::pageFor(const QString &identifier) const
     return page.isEmpty() ? page : u"qrc:/qt/qml/Larkwells/"_s + page;
 }
 
+QString Navigator::unwindPage(const QString &identifier) const
+{
+    static const QString prefix = u"unwindTo"_s;
+    return identifier.startsWith(prefix) ? pageFor(identifier.mid(prefix.size())) : QString();
+}
+
 QStringList Navigator::segues() const
 {
     QStringList identifiers = m_pages.keys();

@@ -6,7 +6,8 @@
 
 // Moves between screens by segue identifier, the way the screen layout names its transitions.
 // A segue pushes the page registered for it; an unwind pops back to the nearest page below
-// that accepts the identifier, which then gets its unwind call. The window does the pushing.
+// that accepts the identifier, which then gets its unwind call, or, with none below, puts that
+// page in place of the screen. The window does the pushing.
 class Navigator : public QObject
 {
     Q_OBJECT
@@ -20,6 +21,9 @@ public:
     // The URL of the QML page a segue opens; empty for an unknown segue.
     Q_INVOKABLE QString pageFor(const QString &identifier) const;
     Q_INVOKABLE bool canPerform(const QString &identifier) const { return !pageFor(identifier).isEmpty(); }
+    // The page an unwind returns to ("unwindToAboutSegue": the page of "AboutSegue"); empty when
+    // no segue of that name has a page.
+    Q_INVOKABLE QString unwindPage(const QString &identifier) const;
 
     // Every segue that has a screen, in a stable order.
     QStringList segues() const;

@@ -1,4 +1,5 @@
 #include "Alerts.h"
+#include "Navigator.h"
 #include "PageRows.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
@@ -154,19 +155,49 @@ private Q_SLOTS:
         QTRY_COMPARE(Alerts::shared().message(), u"Data Import Completed"_s);
         Alerts::shared().dismiss(0);
         QVERIFY(environment.logLines.contains(u"Back button Clicked"_s));
+        // Reached from the cover's menu, the import gives way to the about list with the new article.
+        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+        QTRY_COMPARE(rowNames(window), QStringList{u"Imported"_s});
 
-        QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/Larkwells/about/UndoImportButton.qml"_s));
-        std::unique_ptr<QObject> object(component.create());
-        auto *undo = qobject_cast<QQuickItem *>(object.get());
-        QVERIFY2(undo, qPrintable(component.errorString()));
-        undo->setParentItem(window->contentItem());
-        undo->setZ(1000);
-        QVERIFY(undo->isVisible());
+        QQuickItem *undo = waitForItem(window, u"UndoImportButton"_s);
+        QVERIFY(undo && undo->isVisible());
         QObject *alertDialog = window->findChild<QObject *>(u"alertDialog"_s);
         QTRY_VERIFY(!alertDialog->property("visible").toBool()); // its modal shade would take the click
         click(window, undo);
         QCOMPARE(storedAbouts(), QStringList{u"Before|-"_s});
+        QTRY_COMPARE(rowNames(window), QStringList{u"Before"_s});
         QVERIFY(!undo->isVisible());
+    }
+
+    // A file without "[ABOUT]" empties the table all the same. Its two alerts each go back to the
+    // about list: the second finds it shown and leaves it there.
+    void rejectedFileEndsOnTheEmptiedList()
+    {
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"AboutHasBeenLaunchedBeforeFlag"_s, true);
+        insertAbouts({u"Old|Kept until the import"_s});
+        QTemporaryDir folder;
+        const QString picked = folder.filePath(u"About.txt"_s);
+        QVERIFY(writeFile(picked, "Imported^No header line\n"));
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"AboutButton"_s, u"AboutTableView"_s);
+        QVERIFY(window);
+        Navigator::shared().performSegue(u"ExportMenuSegue"_s);
+        QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
+        click(window, waitForItem(window, u"AboutButton"_s));
+        QTRY_COMPARE(topPage(window), u"AboutImportView"_s);
+        QVERIFY(chooseInFileDialog(window, picked));
+        QQuickItem *importButton = waitForItem(window, u"ImportButton"_s);
+        QTRY_VERIFY(importButton->isEnabled());
+        click(window, importButton);
+        for (const QString &message : {u"WRONG TEXT FILE - ABORTING"_s, u"Data Import Completed"_s}) {
+            QTRY_COMPARE(Alerts::shared().message(), message);
+            Alerts::shared().dismiss(0);
+        }
+        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+        QTest::qWait(300); // a second way back would have happened by now
+        QCOMPARE(topPage(window), u"AboutTableView"_s);
+        QCOMPARE(rowNames(window), QStringList());
     }
 };
 

@@ -36,6 +36,7 @@ private Q_SLOTS:
 
     void playPauseStopLeave()
     {
+        QFETCH(QString, page);
         TestEnvironment environment;
         SpeechDouble &voice = SpeechDouble::shared();
         UserDefaults::standard().set(u"ReadAloudRate"_s, -0.4);
@@ -82,7 +83,7 @@ private Q_SLOTS:
         click(window, button);
         const int stops = voice.stops;
         click(window, waitForItem(window, u"backButton"_s));
-        QTRY_COMPARE(topPage(window), u"CoverView"_s);
+        QTRY_VERIFY(topPage(window) != page);
         QTRY_COMPARE(voice.stops, stops + 1);
         QCOMPARE(voice.state(), Speech::State::Ready);
     }
