@@ -1,12 +1,14 @@
 #include "CoverViewController.h"
 
 #include "Alerts.h"
+#include "AppDelegate.h"
 #include "Bundle.h"
 #include "CoverCache.h"
 #include "Log.h"
 #include "Navigator.h"
 #include "PageFile.h"
 #include "PreferenceKeys.h"
+#include "SeedingFlags.h"
 #include "Selection.h"
 #include "Wallpapers.h"
 
@@ -45,6 +47,7 @@ void CoverViewController::showCover()
 
 void CoverViewController::viewDidLoad()
 {
+    SeedingFlags::restoreAfterLostPreferences(AppDelegate::shared().viewContext());
     if (Preferences::boolForKey(PreferenceKeys::hasBeenLaunchedBeforeFlag)) {
         Log::line(u"Not First Launch"_s);
     } else {

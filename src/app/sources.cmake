@@ -8,6 +8,7 @@ list(APPEND LARKWELLS_SOURCES
     app/PageFileWriter.h app/PageFileWriter.cpp
     app/PageSeeding.h app/PageSeeding.cpp
     app/ReviewPrompt.h app/ReviewPrompt.cpp
+    app/SeedingFlags.h app/SeedingFlags.cpp
     app/Selection.h app/Selection.cpp
     app/SelfTest.h app/SelfTest.cpp
     app/Termination.h app/Termination.cpp

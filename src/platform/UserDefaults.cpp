@@ -104,6 +104,7 @@ void UserDefaults::load()
         QFile::remove(aside);
         QFile::rename(m_filePath, aside);
         Log::line(u"Preferences file unreadable, kept as "_s + aside);
+        m_startedAfresh = true;
         return;
     }
     m_values = contents->values;

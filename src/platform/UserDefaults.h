@@ -47,6 +47,8 @@ public:
     bool synchronize();
 
     QString filePath() const { return m_filePath; }
+    // Whether the file could not be read at all and was put aside: every setting starts afresh.
+    bool startedAfresh() const { return m_startedAfresh; }
 
     // What a preferences file's bytes hold: the well-formed entries, and the keys of entries whose
     // type and value do not match. None when the bytes are not a JSON object.
@@ -68,5 +70,6 @@ private:
 
     QString m_filePath;
     QHash<QString, QVariant> m_values;
+    bool m_startedAfresh = false;
     std::future<std::optional<QString>> m_backgroundWrite;
 };

@@ -1,4 +1,6 @@
+#include "Alerts.h"
 #include "AppDelegate.h"
+#include "CoverViewController.h"
 #include "Entities.h"
 #include "FatalError.h"
 #include "PreferenceKeys.h"
@@ -126,6 +128,32 @@ private Q_SLOTS:
         Preferences::write(PreferenceKeys::ReaderFontSize, 20.0);
         QCOMPARE(readFile(path + u".damaged"_s), bytes);
         QCOMPARE(UserDefaults(path).doubleForKey(u"ReaderFontSize"_s), 20.0);
+    }
+
+    // Settings lost to an unreadable file do not cost the reader a favourite or an article: a
+    // table that holds rows is not emptied and seeded again; an empty one still is, at its turn.
+    void lostPreferencesLeaveSeededTablesAlone()
+    {
+        TestEnvironment environment;
+        environment.addBundleFile(u"Book.txt"_s, "d1^AM^1^1^1^F^x");
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        PoemPrayer *page = context.insertNewObject<PoemPrayer>();
+        page->setDt(u"mine"_s);
+        page->setFavorite(u"T"_s);
+        context.insertNewObject<About>()->setName(u"My article"_s);
+        QVERIFY(!context.save());
+        QVERIFY(writeFile(QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s), "{\"hasBeenLaunched"));
+        UserDefaults::setStandardDirectory(environment.dataDirectory());
+
+        CoverViewController cover;
+        cover.viewDidLoad();
+
+        QVERIFY2(environment.logLines.contains(u"Not First Launch"_s), qPrintable(environment.logLines.join(u'\n')));
+        const QList<PoemPrayer *> pages = context.fetch<PoemPrayer>(PoemPrayer::fetchRequest());
+        QVERIFY(pages.size() == 1 && pages.first()->dt() == u"mine"_s && pages.first()->favorite() == u"T"_s);
+        QVERIFY(Preferences::boolForKey(PreferenceKeys::AboutHasBeenLaunchedBeforeFlag));
+        QVERIFY(!Preferences::boolForKey(PreferenceKeys::SpecialDayshasBeenLaunchedBeforeFlag));
+        QVERIFY(!Alerts::shared().showing());
     }
 
     // A first start killed while building the store leaves only the half-made file beside it.

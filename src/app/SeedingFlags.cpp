@@ -1,0 +1,26 @@
+#include "SeedingFlags.h"
+
+#include "Entities.h"
+#include "Log.h"
+#include "ManagedObjectContext.h"
+#include "PreferenceKeys.h"
+#include "UserDefaults.h"
+
+using namespace Qt::StringLiterals;
+
+void SeedingFlags::restoreAfterLostPreferences(ManagedObjectContext &context)
+{
+    if (!UserDefaults::standard().startedAfresh())
+        return;
+    const std::pair<const PreferenceKey *, QString> flags[] = {
+        {&PreferenceKeys::hasBeenLaunchedBeforeFlag, PoemPrayer::entityName},
+        {&PreferenceKeys::SpecialDayshasBeenLaunchedBeforeFlag, SpecialDay::entityName},
+        {&PreferenceKeys::AboutHasBeenLaunchedBeforeFlag, About::entityName},
+    };
+    for (const auto &[flag, entity] : flags) {
+        if (Preferences::boolForKey(*flag) || context.execute(FetchRequest(entity)).isEmpty())
+            continue;
+        Preferences::write(*flag, true);
+        Log::line(u"Preferences: "_s + entity + u" already seeded, kept as it is"_s);
+    }
+}
