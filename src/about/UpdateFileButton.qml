@@ -18,6 +18,9 @@ Button {
     Accessible.name: text
     Accessible.ignored: !visible
     Accessible.onPressAction: if (button.visible && button.enabled) button.clicked()
+    // Enter and Return press it too, as Space does.
+    Keys.onReturnPressed: if (enabled) clicked()
+    Keys.onEnterPressed: if (enabled) clicked()
 
     contentItem: Label {
         text: button.text

@@ -66,12 +66,14 @@ Page {
         }
         background: Rectangle {
             radius: Theme.cornerRadius
-            border.width: Theme.borderWidth
-            border.color: "black"
+            border.width: controlButton.visualFocus ? Theme.borderWidth + 1 : Theme.borderWidth
+            border.color: controlButton.visualFocus ? Theme.tint : "black"
             color: controlButton.down ? Theme.cellPressedColor : Theme.cellColor
         }
         Accessible.name: controller.menuOpen ? qsTr("Close menu") : qsTr("Menu")
         Accessible.onPressAction: controlButton.clicked()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
         onClicked: controller.HandleSelection()
     }
 

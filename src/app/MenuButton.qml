@@ -40,4 +40,7 @@ Button {
     Accessible.name: text
     Accessible.ignored: !visible
     Accessible.onPressAction: if (button.visible && button.enabled) button.clicked()
+    // Enter and Return press it too, as Space does.
+    Keys.onReturnPressed: if (enabled) clicked()
+    Keys.onEnterPressed: if (enabled) clicked()
 }

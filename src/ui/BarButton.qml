@@ -12,6 +12,9 @@ ToolButton {
     Accessible.name: text
     Accessible.ignored: !visible
     Accessible.onPressAction: if (button.visible && button.enabled) button.clicked()
+    // Enter and Return press it too, as Space does.
+    Keys.onReturnPressed: if (enabled) clicked()
+    Keys.onEnterPressed: if (enabled) clicked()
 
     Rectangle {
         anchors.fill: parent

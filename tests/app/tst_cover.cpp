@@ -106,6 +106,33 @@ private Q_SLOTS:
         QTRY_COMPARE(waitForItem(window, u"table"_s)->property("count").toInt(), 0); // no page for June 2
     }
 
+    void keyboardOpensTheMenuAndAPage_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Enter") << int(Qt::Key_Enter);
+        QTest::newRow("Space") << int(Qt::Key_Space);
+    }
+
+    void keyboardOpensTheMenuAndAPage()
+    {
+        QFETCH(int, key);
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        QQuickItem *control = waitForItem(window, u"ControlButton"_s);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTRY_VERIFY(control->property("visualFocus").toBool());
+        QTest::keyClick(window, Qt::Key(key));
+        QQuickItem *today = waitForItem(window, u"TodayButton"_s);
+        QVERIFY(today);
+        QTRY_VERIFY(today->isVisible());
+        today->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(window, Qt::Key(key));
+        QTRY_COMPARE(topPage(window), u"MainTableView"_s);
+    }
+
     void segueWithoutScreenStopsNamingIt()
     {
         TestEnvironment environment;
