@@ -54,7 +54,8 @@ void ViewController::showSelection()
     selection.setSelectedPoemPrayer(m_CombinedText);
 
     // Another colour code leaves the text view as laid out: empty, in the default look.
-    m_savedText = m_appearance.applyTextColor() ? selection.selectedPoemPrayer() : QString();
+    m_pageShown = m_appearance.applyTextColor();
+    m_savedText = m_pageShown ? selection.selectedPoemPrayer() : QString();
     setPoemPrayerText(m_savedText);
 
     if (const QString greeting = ReaderText::greeting(selection.selectedAmpm()); !greeting.isEmpty())
@@ -101,7 +102,10 @@ void ViewController::save()
         return;
     PoemPrayer *page = m_Results.first();
     page->setFavorite(selection.selectedFavorite());
-    page->setPoemprayer(m_PoemPrayerText);
+    // A view that shows no page (a colour code it does not know) and was not typed in must not
+    // write its emptiness over the page's text.
+    if (m_pageShown || !m_PoemPrayerText.isEmpty())
+        page->setPoemprayer(m_PoemPrayerText);
     if (const auto error = context.save())
         Log::line(error->unresolvedMessage());
 }

@@ -52,6 +52,7 @@ private:
     void save();
 
     QString m_CombinedText;
+    bool m_pageShown = false;
     QString m_PoemPrayerText;
     QString m_savedText; // the text view's content when the page was shown or last saved
     QList<PoemPrayer *> m_Results;

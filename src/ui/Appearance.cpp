@@ -121,8 +121,8 @@ std::optional<QColor> textColorFor(qint64 code)
 {
     switch (code) {
     case 0: return QColor(Qt::black);
-    case 1: return QColor(0x8b, 0x00, 0x8b); // a deep magenta
-    case 2: return QColor(0xb0, 0x00, 0x00); // a deep red
+    case 1: return QColor(Qt::magenta);
+    case 2: return QColor(Qt::red);
     case 3: return QColor(Qt::blue);
     default: return std::nullopt;
     }

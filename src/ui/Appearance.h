@@ -125,8 +125,8 @@ private:
     qint64 m_ListWallpaperVisible = 0;
 };
 
-// The colour of a text colour code (0 black, 1 magenta, 2 red, 3 blue), deep enough to read
-// over every wallpaper; none for a code outside 0..3.
+// The colour of a text colour code (0 black, 1 magenta, 2 red, 3 blue: the standard colours of
+// those names); none for a code outside 0..3.
 std::optional<QColor> textColorFor(qint64 code);
 
 // Whether the desktop is in a dark colour scheme: its window colour is dark.

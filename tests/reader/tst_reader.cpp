@@ -135,20 +135,28 @@ private Q_SLOTS:
     void favouriteSavesExactlyOnePage_data()
     {
         QTest::addColumn<QStringList>("pages");
+        QTest::addColumn<qint64>("textColor");
         QTest::addColumn<QStringList>("stored");
         QTest::newRow("one match: favourite and shown text written")
-            << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|PM|5|1|242|F|Night"_s}
+            << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|PM|5|1|242|F|Night"_s} << qint64(0)
             << QStringList{u"T|\nFrom The Larkwells\n Good Morning\n\nMay 1\n\nBody"_s, u"F|Night"_s};
-        QTest::newRow("no match writes nothing") << QStringList{u"May 2|AM|5|2|243|F|Body"_s} << QStringList{u"F|Body"_s};
+        QTest::newRow("no match writes nothing") << QStringList{u"May 2|AM|5|2|243|F|Body"_s} << qint64(0)
+                                                 << QStringList{u"F|Body"_s};
         QTest::newRow("two morning pages share the date: nothing written")
-            << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|AM|5|1|241|F|Copy"_s} << QStringList{u"F|Body"_s, u"F|Copy"_s};
+            << QStringList{u"May 1|AM|5|1|241|F|Body"_s, u"May 1|AM|5|1|241|F|Copy"_s} << qint64(0)
+            << QStringList{u"F|Body"_s, u"F|Copy"_s};
+        // The text view shows no page then: its emptiness is not written over the page's text.
+        QTest::newRow("colour code 7: favourite written, text kept") << QStringList{u"May 1|AM|5|1|241|F|Body"_s}
+                                                                     << qint64(7) << QStringList{u"T|Body"_s};
     }
 
     void favouriteSavesExactlyOnePage()
     {
         QFETCH(QStringList, pages);
+        QFETCH(qint64, textColor);
         QFETCH(QStringList, stored);
         TestEnvironment environment;
+        UserDefaults::standard().set(u"textColor"_s, textColor);
         insertPages(pages);
         select(u"AM"_s);
         ViewController controller;
@@ -237,7 +245,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("marked");
         QTest::addColumn<QString>("look");
         const QString morning = u"\n\nFrom The Larkwells\n Good Morning\n\nJanuary 1\n\n"_s;
-        QTest::newRow("no search: red, nothing marked") << u"AM"_s << QString() << 2 << morning << QStringList() << u"#b00000 15 "_s;
+        QTest::newRow("no search: red, nothing marked") << u"AM"_s << QString() << 2 << morning << QStringList() << u"#ff0000 15 "_s;
         QTest::newRow("every case marked, black over red") << u"AM"_s << u"snow"_s << 2 << morning
                                                            << QStringList{u"Snow"_s, u"SNOW"_s} << u"#000000 15 "_s;
         QTest::newRow("heading and date line marked") << u"PM"_s << u"n"_s << 0
@@ -325,7 +333,7 @@ private Q_SLOTS:
             << u"AM"_s << QVariantMap() << u"Good Morning\n\n Easter\n\nRisen\nindeed"_s << u"#000000 17 "_s;
         QTest::newRow("night: no blank; stored size, red, wallpaper")
             << u"PM"_s << QVariantMap{{u"ReaderFontSize"_s, 22.0}, {u"textColor"_s, 2}, {u"useWallpaper"_s, 1}}
-            << u"Good Night\n\nEaster\n\nRisen\nindeed"_s << u"#b00000 22 Page1.jpg"_s;
+            << u"Good Night\n\nEaster\n\nRisen\nindeed"_s << u"#ff0000 22 Page1.jpg"_s;
         QTest::newRow("neither: the poem alone; colour code 7 shows it in black")
             << u"pm"_s << QVariantMap{{u"textColor"_s, 7}} << u"Risen\nindeed"_s << u"#000000 17 "_s;
     }
