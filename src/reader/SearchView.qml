@@ -58,13 +58,6 @@ Page {
         onPinched: scale => controller.HandlePinch(scale)
     }
 
-    PageTurner {
-        anchors.fill: surface
-        surface: surface
-        reader: controller
-        onTurned: root.revealMatch()
-    }
-
     footer: BottomBar {
         RowLayout {
             anchors.fill: parent

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 SearchViewController::SearchViewController(QObject *parent)
-    : PageTurningReader(parent)
+    : ReaderScreen(parent)
 {
 }
 

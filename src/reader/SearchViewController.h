@@ -1,13 +1,14 @@
 #pragma once
 
-#include "PageTurningReader.h"
+#include "ReaderScreen.h"
 
 #include <QObject>
 #include <QQmlEngine>
 
 // Shows the page chosen in the search list under its heading and date, with every match of the
-// search text marked in yellow; marks the page a favourite, changes the size and shares it.
-class SearchViewController : public PageTurningReader
+// search text marked in yellow; marks the page a favourite, changes the size and shares it. It
+// shows that one page: no turning to the other results.
+class SearchViewController : public ReaderScreen
 {
     Q_OBJECT
     QML_ELEMENT
@@ -55,10 +56,8 @@ Q_SIGNALS:
     // The favourite box should show this state (0 unchecked, 1 checked).
     void favoriteCheckStateRequested(int checkState, bool animated);
 
-protected:
-    void showSelection() override;
-
 private:
+    void showSelection();
     void markMatches(const QString &searchText);
 
     QString m_CombinedText;
