@@ -1,7 +1,6 @@
 #include "CoverViewController.h"
 
 #include "Alerts.h"
-#include "AppDelegate.h"
 #include "Bundle.h"
 #include "CoverCache.h"
 #include "Log.h"
@@ -47,7 +46,7 @@ void CoverViewController::showCover()
 
 void CoverViewController::viewDidLoad()
 {
-    SeedingFlags::restoreAfterLostPreferences(AppDelegate::shared().viewContext());
+    SeedingFlags::restoreAfterLostPreferences();
     if (Preferences::boolForKey(PreferenceKeys::hasBeenLaunchedBeforeFlag)) {
         Log::line(u"Not First Launch"_s);
     } else {

@@ -1,5 +1,6 @@
 #include "SeedingFlags.h"
 
+#include "AppDelegate.h"
 #include "Entities.h"
 #include "Log.h"
 #include "ManagedObjectContext.h"
@@ -8,10 +9,11 @@
 
 using namespace Qt::StringLiterals;
 
-void SeedingFlags::restoreAfterLostPreferences(ManagedObjectContext &context)
+void SeedingFlags::restoreAfterLostPreferences()
 {
     if (!UserDefaults::standard().startedAfresh())
         return;
+    ManagedObjectContext &context = AppDelegate::shared().viewContext();
     const std::pair<const PreferenceKey *, QString> flags[] = {
         {&PreferenceKeys::hasBeenLaunchedBeforeFlag, PoemPrayer::entityName},
         {&PreferenceKeys::SpecialDayshasBeenLaunchedBeforeFlag, SpecialDay::entityName},
