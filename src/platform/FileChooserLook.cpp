@@ -13,7 +13,7 @@ public:
     {
         static const QString qts = u"qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/qml/"_s;
         static const QString ours = u"qrc:/larkwells/chooser/"_s;
-        static const QStringList replaced{u"FileDialog.qml"_s, u"FileDialogDelegateLabel.qml"_s};
+        static const QStringList replaced{u"FileDialog.qml"_s};
         if (type != QmlFile)
             return url;
         const QString address = url.toString();

@@ -172,7 +172,10 @@ QString Sharing::fileName() const
 
 QUrl Sharing::documentsFolder() const
 {
-    return QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    // Without a Documents folder (many a desktop) the home folder: a chooser opened on a folder
+    // that is not there lists another one, and a copy saved into it fails.
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QUrl::fromLocalFile(QFileInfo(documents).isDir() ? documents : QDir::homePath());
 }
 
 QUrl Sharing::suggestedCopy() const

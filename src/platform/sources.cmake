@@ -23,4 +23,6 @@ list(APPEND LARKWELLS_QML
     platform/SaveCopyDialog.qml
     platform/SaveTextDialog.qml
     platform/ShareSheet.qml
+    platform/chooser/ChooserPath.qml
+    platform/chooser/ChooserRow.qml
 )

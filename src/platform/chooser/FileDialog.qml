@@ -1,18 +1,17 @@
+pragma ComponentBehavior: Bound
 import Qt.labs.folderlistmodel
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Controls.Material
-import QtQuick.Dialogs.quickimpl
+import QtQuick.Dialogs.quickimpl as DialogsImpl
 import QtQuick.Layouts
 import QtQuick.Templates as T
 import Larkwells
-// Qt's own chooser parts in their styled look (the module's names are their bare templates).
-import "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/qml" as DialogsImpl
 
 // The file chooser: the whole window on a phone, as a picker is there, and a card in the middle
 // of a larger screen. On a narrow chooser the buttons get a line of their own, so the filter box
 // keeps its whole text.
-FileDialogImpl {
+DialogsImpl.FileDialogImpl {
     id: control
 
     readonly property bool fullScreen: parent !== null && (parent.width < 600 || parent.height < 560)
@@ -30,12 +29,12 @@ FileDialogImpl {
     // Made before it has a window to take the app's colours from.
     Material.accent: Theme.tint
 
-    FileDialogImpl.buttonBox: buttonBox
-    FileDialogImpl.nameFiltersComboBox: nameFiltersComboBox
-    FileDialogImpl.fileDialogListView: fileDialogListView
-    FileDialogImpl.breadcrumbBar: breadcrumbBar
-    FileDialogImpl.fileNameLabel: fileNameLabel
-    FileDialogImpl.fileNameTextField: fileNameTextField
+    DialogsImpl.FileDialogImpl.buttonBox: buttonBox
+    DialogsImpl.FileDialogImpl.nameFiltersComboBox: nameFiltersComboBox
+    DialogsImpl.FileDialogImpl.fileDialogListView: fileDialogListView
+    DialogsImpl.FileDialogImpl.breadcrumbBar: breadcrumbBar
+    DialogsImpl.FileDialogImpl.fileNameLabel: fileNameLabel
+    DialogsImpl.FileDialogImpl.fileNameTextField: fileNameTextField
 
     background: DialogCard {
         radius: control.fullScreen ? 0 : 4
@@ -57,13 +56,12 @@ FileDialogImpl {
             Layout.fillWidth: true
         }
 
-        DialogsImpl.FolderBreadcrumbBar {
+        ChooserPath {
             id: breadcrumbBar
             dialog: control
             Layout.leftMargin: 16
             Layout.rightMargin: 16
             Layout.fillWidth: true
-            Layout.maximumWidth: parent.width - 32
         }
     }
 
@@ -73,18 +71,22 @@ FileDialogImpl {
         clip: true
         ScrollBar.vertical: ScrollBar {}
         model: FolderListModel {
+            id: folderModel
             folder: control.currentFolder
             nameFilters: control.selectedNameFilter.globs
             showDirsFirst: PlatformTheme.themeHint(PlatformTheme.ShowDirectoriesFirst)
             sortCaseSensitive: false
         }
-        delegate: DialogsImpl.FileDialogDelegate {
-            id: row
-            objectName: "fileDialogDelegate" + row.index
+        Label {
+            anchors.centerIn: parent
+            visible: fileDialogListView.count === 0 && folderModel.status === FolderListModel.Ready
+            text: qsTr("No files here")
+            color: control.Material.hintTextColor
+        }
+        delegate: ChooserRow {
             width: fileDialogListView.width
             highlighted: ListView.isCurrentItem
             dialog: control
-            fileDetailRowWidth: row.width
         }
     }
 
