@@ -42,17 +42,6 @@ void printLinks()
                  qPrintable(ProductLinks::website().toString()), qPrintable(ProductLinks::feedbackAddress()));
 }
 
-// Help, the version and a reminder answer without a window (a reminder runs from a timer, where
-// there may be no display).
-bool needsNoWindow(int argc, char *argv[])
-{
-    static const char *const flags[] = {"-h", "-?", "--help", "--help-all", "-v", "--version"};
-    return std::any_of(argv + 1, argv + argc, [](const char *arg) {
-        return std::any_of(std::begin(flags), std::end(flags), [arg](const char *flag) { return qstrcmp(arg, flag) == 0; })
-            || QByteArrayView(arg).startsWith("--remind");
-    });
-}
-
 // The page `--open` names: "AM" for today-morning, "PM" for today-night, empty for another.
 QString pageToOpen(const QString &value)
 {
@@ -62,6 +51,48 @@ QString pageToOpen(const QString &value)
         return u"PM"_s;
     return {};
 }
+
+// The command line: its options, and the first thing wrong with what it was given.
+struct CommandLine {
+    QCommandLineParser parser;
+    QCommandLineOption help = parser.addHelpOption();
+    QCommandLineOption version = parser.addVersionOption();
+    QCommandLineOption dataDir{u"data-dir"_s, QCoreApplication::translate("main", "Where the database and the preferences live."), u"DIR"_s};
+    QCommandLineOption resources{u"resources"_s, QCoreApplication::translate("main", "Use DIR as the application bundle."), u"DIR"_s};
+    QCommandLineOption selfTest{u"self-test"_s, QCoreApplication::translate("main", "Load every page and fail on any QML warning.")};
+    QCommandLineOption remind{u"remind"_s, QCoreApplication::translate("main", "Show the first line of today's morning or night page as a desktop notification; a click on it opens the page."), u"morning|night"_s};
+    QCommandLineOption at{u"at"_s, QCoreApplication::translate("main", "With --remind: wait for this time of day (HH:MM), every day, instead of reminding now."), u"HH:MM"_s};
+    QCommandLineOption open{u"open"_s, QCoreApplication::translate("main", "Open the reader on today's morning or night page."), u"today-morning|today-night"_s};
+    bool parsed = false;
+
+    explicit CommandLine(const QStringList &arguments)
+    {
+        parser.setApplicationDescription(QCoreApplication::translate("main", "The Larkwells Book: a morning and a night page for every day of the year."));
+        parser.addOptions({dataDir, resources, selfTest, remind, at, open});
+        parsed = parser.parse(arguments);
+    }
+
+    QString error() const
+    {
+        if (!parsed)
+            return parser.errorText() + u'\n' + QCoreApplication::translate("main", "Try 'larkwells --help' for the options.");
+        if (!parser.positionalArguments().isEmpty())
+            return QCoreApplication::translate("main", "Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+        if (parser.isSet(open) && pageToOpen(parser.value(open)).isEmpty())
+            return QCoreApplication::translate("main", "--open takes today-morning or today-night.");
+        if (parser.isSet(at) && !parser.isSet(remind))
+            return QCoreApplication::translate("main", "--at goes with --remind.");
+        return {};
+    }
+
+    // Help, the version, a reminder (run from a timer, where there may be no display) and a
+    // mistaken command line are answered without a window.
+    bool needsWindow() const
+    {
+        return error().isEmpty() && !parser.isSet(help) && !parser.isSet(u"help-all"_s) && !parser.isSet(version)
+            && !parser.isSet(remind);
+    }
+};
 
 // What a reminder passes on to the app it runs: the data folder and bundle this one was given.
 QStringList launchArguments(const QCommandLineParser &parser, const QList<QCommandLineOption> &options)
@@ -119,66 +150,50 @@ void placeWindow(QQuickWindow *window, const QString &dataDirectory)
 
 int main(int argc, char *argv[])
 {
-    if (needsNoWindow(argc, argv))
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    if (!CommandLine(arguments).needsWindow())
         qputenv("QT_QPA_PLATFORM", "minimal");
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(u"larkwells"_s);
     QCoreApplication::setApplicationVersion(Bundle::main().version());
     installTranslations(app);
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QCoreApplication::translate("main", "The Larkwells Book: a morning and a night page for every day of the year."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption dataDir(u"data-dir"_s, QCoreApplication::translate("main", "Where the database and the preferences live."), u"DIR"_s);
-    const QCommandLineOption resources(u"resources"_s, QCoreApplication::translate("main", "Use DIR as the application bundle."), u"DIR"_s);
-    const QCommandLineOption selfTest(u"self-test"_s, QCoreApplication::translate("main", "Load every page and fail on any QML warning."));
-    const QCommandLineOption remind(u"remind"_s, QCoreApplication::translate("main", "Show the first line of today's morning or night page as a desktop notification; a click on it opens the page."), u"morning|night"_s);
-    const QCommandLineOption at(u"at"_s, QCoreApplication::translate("main", "With --remind: wait for this time of day (HH:MM), every day, instead of reminding now."), u"HH:MM"_s);
-    const QCommandLineOption open(u"open"_s, QCoreApplication::translate("main", "Open the reader on today's morning or night page."), u"today-morning|today-night"_s);
-    parser.addOptions({dataDir, resources, selfTest, remind, at, open});
-    if (!parser.parse(QCoreApplication::arguments())) {
-        std::fprintf(stderr, "larkwells: %s\n%s\n", qPrintable(parser.errorText()),
-                     qPrintable(QCoreApplication::translate("main", "Try 'larkwells --help' for the options.")));
+    // Parsed again now that its texts can be translated.
+    CommandLine commandLine(QCoreApplication::arguments());
+    QCommandLineParser &parser = commandLine.parser;
+    if (const QString error = commandLine.error(); !error.isEmpty()) {
+        std::fprintf(stderr, "larkwells: %s\n", qPrintable(error));
         return 2;
     }
-    if (parser.isSet(version)) {
+    if (parser.isSet(commandLine.version)) {
         printLinks();
         parser.showVersion();
     }
-    if (parser.isSet(help) || parser.isSet(u"help-all"_s))
+    if (parser.isSet(commandLine.help) || parser.isSet(u"help-all"_s))
         parser.showHelp();
-    if (!parser.positionalArguments().isEmpty()) {
-        std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst())));
-        return 2;
-    }
-    const QString openPage = pageToOpen(parser.value(open));
-    if ((parser.isSet(open) && openPage.isEmpty()) || (parser.isSet(at) && !parser.isSet(remind))) {
-        std::fprintf(stderr, "larkwells: %s\n", qPrintable(parser.isSet(at)
-            ? QCoreApplication::translate("main", "--at goes with --remind.")
-            : QCoreApplication::translate("main", "--open takes today-morning or today-night.")));
-        return 2;
-    }
+    const QString openPage = pageToOpen(parser.value(commandLine.open));
 
     QGuiApplication::setApplicationDisplayName(u"The Larkwells Book"_s);
     // Matches the window to its desktop entry (packaging/), which names the icon.
     QGuiApplication::setDesktopFileName(u"org.larkwells.Book"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/bundle/Icon.svg"_s));
 
-    const bool testing = parser.isSet(selfTest);
+    const bool testing = parser.isSet(commandLine.selfTest);
     SelfTest::Run selfTestRun;
-    QString directory = parser.value(dataDir);
+    QString directory = parser.value(commandLine.dataDir);
     if (directory.isEmpty())
         directory = testing ? selfTestRun.dataDirectory() : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     UserDefaults::setStandardDirectory(directory);
     PersistentContainer::setDefaultDirectory(directory);
-    if (parser.isSet(resources))
-        Bundle::setResourceDirectory(parser.value(resources));
+    if (parser.isSet(commandLine.resources))
+        Bundle::setResourceDirectory(parser.value(commandLine.resources));
     if (testing)
         selfTestRun.watchWarnings();
-    ReminderSchedule::setLaunchArguments(launchArguments(parser, {dataDir, resources}));
-    if (parser.isSet(remind)) {
-        const int status = RemindCommand::run(parser.value(remind), parser.value(at));
+    ReminderSchedule::setLaunchArguments(launchArguments(parser, {commandLine.dataDir, commandLine.resources}));
+    if (parser.isSet(commandLine.remind)) {
+        const int status = RemindCommand::run(parser.value(commandLine.remind), parser.value(commandLine.at));
         AppDelegate::shared().reset();
         return status;
     }
