@@ -34,16 +34,13 @@ void AboutSeeding::loadAbouts()
 
 void AboutSeeding::loadLine(const QString &line)
 {
-    const auto parsed = AboutFile::article(line);
-    if (const auto *error = std::get_if<AboutFile::ParseError>(&parsed))
-        fatalError(u"Fatal error: malformed about line: "_s + error->message);
-    const AboutFile::Article &article = std::get<AboutFile::Article>(parsed);
-    theName = article.name;
-    theAboutText = article.text;
+    theName = line.section(u'^', 0, 0);
+    theAboutText.reset();
 
     ManagedObjectContext &context = AppDelegate::shared().viewContext();
-    // The name is the key: a name already stored keeps its first article. An empty name is
-    // looked up as the empty name.
+    // The name is the key: a name already stored keeps its first article, and a later line with
+    // that name is passed over before its fields are counted. An empty name is looked up as the
+    // empty name.
     FetchRequest request = About::fetchRequest();
     request.predicate = Predicate::equals(u"name"_s, *theName);
     std::optional<StoreError> error;
@@ -52,6 +49,11 @@ void AboutSeeding::loadLine(const QString &line)
         ResultCount = int(found.size());
     if (ResultCount != 0)
         return;
+
+    const auto parsed = AboutFile::article(line);
+    if (const auto *parseError = std::get_if<AboutFile::ParseError>(&parsed))
+        fatalError(u"Fatal error: malformed about line: "_s + parseError->message);
+    theAboutText = std::get<AboutFile::Article>(parsed).text;
 
     // An empty field is not stored: the attribute stays absent.
     About *about = context.insertNewObject<About>();

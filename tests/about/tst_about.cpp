@@ -106,6 +106,8 @@ private Q_SLOTS:
         QTest::newRow("only markers") << QStringList{u"Old|old"_s} << u"[ABOUT]\n\n[ABOUT]"_s << QStringList() << QString();
         QTest::newRow("three fields stop after the lines before them") << QStringList() << u"A^one\nB^two^three\nC^four"_s
                                                                         << QStringList{u"A|one"_s} << u"Index out of range"_s;
+        QTest::newRow("a name already stored is passed over before its fields are counted")
+            << QStringList() << u"A^one\nA^two^three\nB^four"_s << QStringList{u"A|one"_s, u"B|four"_s} << QString();
     }
 
     void firstVisitSeeds()
