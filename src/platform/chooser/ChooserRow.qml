@@ -7,7 +7,8 @@ import QtQuick.Shapes
 
 // A row of the file chooser: a folder or page sign and the name, and under the name the file's
 // size at the left and its date at the right of the row itself. A tap marks the row and a second
-// tap (or Enter) opens it; a screen reader's press opens it at once.
+// tap (or Enter) opens it; on a phone one tap opens a folder, as a phone's picker does. A screen
+// reader's press opens it at once.
 DialogsImpl.FileDialogDelegate {
     id: row
 
@@ -18,6 +19,7 @@ DialogsImpl.FileDialogDelegate {
     required property date fileModified
     required property bool fileIsDir
 
+    property bool foldersOpenOnTap: false
     readonly property color ink: enabled ? Material.foreground : Material.hintTextColor
 
     objectName: "file-" + fileName
@@ -31,6 +33,7 @@ DialogsImpl.FileDialogDelegate {
     implicitHeight: Math.max(implicitBackgroundHeight, implicitContentHeight + topPadding + bottomPadding)
 
     Accessible.onPressAction: if (row.enabled) row.doubleClicked()
+    onClicked: if (foldersOpenOnTap && fileIsDir) doubleClicked()
 
     // Laid out without ids of its own: ids inside a control's content would build it at once.
     contentItem: ColumnLayout {

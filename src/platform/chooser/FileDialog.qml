@@ -87,6 +87,7 @@ DialogsImpl.FileDialogImpl {
             width: fileDialogListView.width
             highlighted: ListView.isCurrentItem
             dialog: control
+            foldersOpenOnTap: control.fullScreen
         }
     }
 
