@@ -233,7 +233,6 @@ private Q_SLOTS:
         }
         QCOMPARE(Sharing::shared().showing() ? Sharing::shared().text() : QString(), shared);
         Sharing::shared().cancel();
-        Sharing::shared().setCanSendTextForTesting(std::nullopt);
     }
 
     void searchComposesAndMarks_data()
