@@ -84,7 +84,7 @@ class TestAbout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { Sharing::shared().setCanSendMailForTesting(std::nullopt); dismissAlerts(); }
+    void cleanup() { dismissAlerts(); }
 
     void firstVisitSeeds_data()
     {

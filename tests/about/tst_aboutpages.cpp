@@ -50,8 +50,7 @@ private Q_SLOTS:
         QVERIFY(waitForItem(window, u"row-1"_s));
         QCOMPARE(rowNames(window), (QStringList{u"Good Morning Authors"_s, u"Good Night Preface"_s}));
 
-        click(window, waitForItem(window, u"row-1"_s));
-        QTRY_COMPARE(topPage(window), u"AboutEditView"_s);
+        QVERIFY(clickTo(window, u"row-1"_s, u"AboutEditView"_s));
         QQuickItem *text = waitForItem(window, u"AboutItemTextView"_s);
         QVERIFY(text);
         const QString shown = u"From The Larkwells\n Good Night \n\n Rest now."_s;
@@ -74,21 +73,17 @@ private Q_SLOTS:
         QCOMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 16.0);
 
         typeAtEnd(window, text, u" Sleep."_s);
-        click(window, waitForItem(window, u"SaveButton"_s));
-        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+        QVERIFY(clickTo(window, u"SaveButton"_s, u"AboutTableView"_s));
         QCOMPARE(storedAbouts().first(), u"Good Night Preface|"_s + shown + u" Sleep."_s);
 
-        click(window, waitForItem(window, u"NewArticleButton"_s));
-        QTRY_COMPARE(topPage(window), u"AboutNewView"_s);
+        QVERIFY(clickTo(window, u"NewArticleButton"_s, u"AboutNewView"_s));
         typeAtEnd(window, waitForItem(window, u"NameTextField"_s), u"Good Morning Acknowledgements"_s);
         typeAtEnd(window, waitForItem(window, u"AboutItemTextView"_s), u"Thanks."_s);
-        click(window, waitForItem(window, u"SaveButton"_s));
-        QTRY_COMPARE(topPage(window), u"AboutTableView"_s);
+        QVERIFY(clickTo(window, u"SaveButton"_s, u"AboutTableView"_s));
         QTRY_COMPARE(rowNames(window), (QStringList{u"Good Morning Acknowledgements"_s, u"Good Morning Authors"_s,
                                                     u"Good Night Preface"_s}));
 
-        click(window, waitForItem(window, u"row-1"_s));
-        QTRY_COMPARE(topPage(window), u"AboutEditView"_s);
+        QVERIFY(clickTo(window, u"row-1"_s, u"AboutEditView"_s));
         text = waitForItem(window, u"AboutItemTextView"_s);
         QCOMPARE(text->property("text").toString(), u"From The Larkwells\nGood Morning Authors\n\nWe wrote it."_s);
         QCOMPARE(text->property("horizontalAlignment").toInt(), int(Qt::AlignLeft));
@@ -108,8 +103,7 @@ private Q_SLOTS:
         QQmlApplicationEngine engine;
         QQuickWindow *window = openFromCover(engine, u"ResetButton"_s, u"ExportLarkwellFilesView"_s);
         QVERIFY(window);
-        click(window, waitForItem(window, u"PoemPrayerButton"_s));
-        QTRY_COMPARE(topPage(window), u"ExportView"_s);
+        QVERIFY(clickTo(window, u"PoemPrayerButton"_s, u"ExportView"_s));
         QObject *exportScreen = currentScreen(window)->property("controller").value<QObject *>();
         QCOMPARE(exportScreen->property("HelpTextView").toString(),
                  u"Step 1: Create the Export File\nStep 2: Option 1: Click 'Save To Files' button\n             Option 2: "
@@ -132,10 +126,8 @@ private Q_SLOTS:
         QTRY_COMPARE(exportScreen->property("ExportTextView").toString(), u"[POEMPRAYER]!\nJanuary 1^AM^1^1^1^F^Snow\n"_s);
         QVERIFY(waitForItem(window, u"SaveButton"_s)->isEnabled() && waitForItem(window, u"EmailButton"_s)->isEnabled());
 
-        click(window, waitForItem(window, u"backButton"_s));
-        QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
-        click(window, waitForItem(window, u"AboutButton"_s));
-        QTRY_COMPARE(topPage(window), u"AboutImportView"_s);
+        QVERIFY(clickTo(window, u"backButton"_s, u"ExportLarkwellFilesView"_s));
+        QVERIFY(clickTo(window, u"AboutButton"_s, u"AboutImportView"_s));
         QObject *picker = currentScreen(window)->findChild<QObject *>(u"documentPicker"_s);
         QVERIFY(picker);
         QTRY_VERIFY(picker->property("visible").toBool()); // the screen opens with the picker in front
@@ -184,8 +176,7 @@ private Q_SLOTS:
         QVERIFY(window);
         Navigator::shared().performSegue(u"ExportMenuSegue"_s);
         QTRY_COMPARE(topPage(window), u"ExportLarkwellFilesView"_s);
-        click(window, waitForItem(window, u"AboutButton"_s));
-        QTRY_COMPARE(topPage(window), u"AboutImportView"_s);
+        QVERIFY(clickTo(window, u"AboutButton"_s, u"AboutImportView"_s));
         QVERIFY(chooseInFileDialog(window, picked));
         QQuickItem *importButton = waitForItem(window, u"ImportButton"_s);
         QTRY_VERIFY(importButton->isEnabled());

@@ -48,31 +48,6 @@ struct Scene
     QPoint at(QPointF boxPoint) const { return box->mapToScene(boxPoint).toPoint(); }
 };
 
-QString describe(const M13CheckboxPath &path)
-{
-    const auto n = [](qreal v) { return QString::number(v); };
-    QStringList steps;
-    for (const auto &e : path.elements()) {
-        switch (e.type) {
-        case M13CheckboxPath::Element::MoveTo:
-            steps << u"M %1,%2"_s.arg(n(e.point.x()), n(e.point.y()));
-            break;
-        case M13CheckboxPath::Element::LineTo:
-            steps << u"L %1,%2"_s.arg(n(e.point.x()), n(e.point.y()));
-            break;
-        case M13CheckboxPath::Element::Arc:
-            steps << u"A %1,%2 r%3 %4..%5 %6"_s.arg(n(e.point.x()), n(e.point.y()), n(e.radius),
-                                                  n(qRadiansToDegrees(e.startAngle)), n(qRadiansToDegrees(e.endAngle)),
-                                                  e.clockwise ? u"cw"_s : u"ccw"_s);
-            break;
-        case M13CheckboxPath::Element::Close:
-            steps << u"Z"_s;
-            break;
-        }
-    }
-    return steps.join(u"; "_s);
-}
-
 QImage render(const M13CheckboxController &controller)
 {
     QImage image(48, 48, QImage::Format_ARGB32_Premultiplied);
@@ -103,19 +78,10 @@ private Q_SLOTS:
         QTest::addColumn<BoxType>("boxType");
         QTest::addColumn<qreal>("lineWidth");
         QTest::addColumn<qreal>("cornerRadius");
-        QTest::addColumn<QString>("steps");
-
-        QTest::newRow("circle") << BoxType::Circle << 2.0 << 5.0 << u"A 15,15 r14 -90..270 cw"_s;
-        QTest::newRow("square, sharp corners")
-            << BoxType::Square << 2.0 << 0.0 << u"M 15,1; L 29,1; L 29,29; L 1,29; L 1,1; Z"_s;
-        QTest::newRow("square, rounded corners")
-            << BoxType::Square << 2.0 << 4.0
-            << u"M 15,1; L 25,1; A 25,5 r4 -90..0 cw; L 29,25; A 25,25 r4 0..90 cw; L 5,29; "
-               "A 5,25 r4 90..180 cw; L 1,5; A 5,5 r4 180..270 cw; Z"_s;
-        QTest::newRow("square, thick line")
-            << BoxType::Square << 6.0 << 2.0
-            << u"M 15,3; L 25,3; A 25,5 r2 -90..0 cw; L 27,25; A 25,25 r2 0..90 cw; L 5,27; "
-               "A 5,25 r2 90..180 cw; L 3,5; A 5,5 r2 180..270 cw; Z"_s;
+        QTest::newRow("circle") << BoxType::Circle << 2.0 << 5.0;
+        QTest::newRow("square, sharp corners") << BoxType::Square << 2.0 << 0.0;
+        QTest::newRow("square, rounded corners") << BoxType::Square << 2.0 << 4.0;
+        QTest::newRow("square, thick line") << BoxType::Square << 6.0 << 2.0;
     }
 
     void boxGeometry()
@@ -123,23 +89,25 @@ private Q_SLOTS:
         QFETCH(BoxType, boxType);
         QFETCH(qreal, lineWidth);
         QFETCH(qreal, cornerRadius);
-        QFETCH(QString, steps);
 
         M13CheckboxCheckPathGenerator generator;
         generator.setSize(30);
         generator.setBoxType(boxType);
         generator.setBoxLineWidth(lineWidth);
         generator.setCornerRadius(cornerRadius);
-        const M13CheckboxPath box = generator.boxPath();
-        QCOMPARE(describe(box), steps);
+        const QPainterPath drawn = generator.boxPath().toPainterPath();
 
         // Drawn from the top middle clockwise on screen: a quarter of the way round is the right side.
-        const QPainterPath drawn = box.toPainterPath();
         const qreal edge = lineWidth / 2;
         QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0), QPointF(15, edge)));
         QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.25), QPointF(30 - edge, 15)));
         QVERIFY(sameDistinctPoint(drawn.pointAtPercent(0.5), QPointF(15, 30 - edge)));
         QCOMPARE(drawn.boundingRect(), QRectF(edge, edge, 30 - lineWidth, 30 - lineWidth));
+        // Once round, the corners bent by their radius (a circle is all corner; arcs are drawn as curves).
+        const qreal side = 30 - lineWidth;
+        const qreal radius = boxType == BoxType::Circle ? side / 2 : cornerRadius;
+        const qreal perimeter = 4 * (side - 2 * radius) + 2 * M_PI * radius;
+        QVERIFY2(std::abs(drawn.length() - perimeter) < 0.3, qPrintable(QString::number(drawn.length())));
     }
 
     void animationText_data()
@@ -196,10 +164,6 @@ private Q_SLOTS:
         QTest::newRow("state") << u"_IBCheckState: \"Mixed\""_s << u"_IBCheckState"_s << u"Mixed"_s;
         QTest::newRow("state set from QML") << u"Component.onCompleted: setCheckState(M13Checkbox.Mixed, true)"_s
                                             << u"_IBCheckState"_s << u"Mixed"_s;
-        QTest::newRow("mark") << u"_IBMarkType: \"AddRemove\""_s << u"_IBMarkType"_s << u"AddRemove"_s;
-        QTest::newRow("box") << u"_IBBoxType: \"Square\""_s << u"_IBBoxType"_s << u"Square"_s;
-        QTest::newRow("animation") << u"_IBStateChangeAnimation: \"DotFill\""_s << u"_IBStateChangeAnimation"_s
-                                   << u"DotFill"_s;
         QTest::newRow("a text outside the list") << u"_IBStateChangeAnimation: \"Bounce\""_s << u"_IBStateChangeAnimation"_s
                                                  << u"Stroke"_s;
     }

@@ -92,7 +92,6 @@ class TestLists : public QObject
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-    void cleanup() { Clock::set({}); }
 
     void listsTheChosenView_data()
     {

@@ -85,31 +85,33 @@ private Q_SLOTS:
     void sortsAndSearchesBySegment_data()
     {
         QTest::addColumn<int>("segment");
-        QTest::addColumn<QString>("search");
+        QTest::addColumn<QStringList>("steps"); // search texts; "edit", "add" or "delete:N" for a change to the list
         QTest::addColumn<QStringList>("subjects");
-        QTest::addColumn<QString>("change"); // to the list, between a first keystroke and the search
 
-        QTest::newRow("subject, descending") << 0 << QString()
-                                             << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s, u"(none)"_s} << QString();
-        QTest::newRow("MEET finds Team meeting") << 0 << u"MEET"_s << QStringList{u"Team meeting"_s} << QString();
-        QTest::newRow("date, descending") << 1 << QString()
-                                          << QStringList{u"Budget"_s, u"Team meeting"_s, u"apples"_s, u"(none)"_s} << QString();
-        QTest::newRow("a month name in the date text") << 1 << u"march"_s << QStringList{u"Team meeting"_s} << QString();
-        QTest::newRow("digits as the date text has them") << 1 << u"31, 2"_s << QStringList{u"Budget"_s} << QString();
-        QTest::newRow("note text, descending") << 2 << QString()
-                                               << QStringList{u"Budget"_s, u"(none)"_s, u"Team meeting"_s, u"apples"_s} << QString();
-        QTest::newRow("MEET in the note text") << 2 << u"MEET"_s << QStringList{u"Budget"_s} << QString();
-        QTest::newRow("no trimming") << 0 << u" apples"_s << QStringList() << QString();
-        QTest::newRow("an edited subject, after the unwind") << 0 << u"ORCH"_s << QStringList{u"Orchard"_s} << u"edit"_s;
-        QTest::newRow("a new note, after the unwind") << 0 << u"gar"_s << QStringList{u"Garage"_s} << u"add"_s;
+        const QStringList all{QString()};
+        QTest::newRow("subject, descending") << 0 << all << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s, u"(none)"_s};
+        QTest::newRow("MEET finds Team meeting") << 0 << QStringList{u"MEET"_s} << QStringList{u"Team meeting"_s};
+        QTest::newRow("date, descending") << 1 << all << QStringList{u"Budget"_s, u"Team meeting"_s, u"apples"_s, u"(none)"_s};
+        QTest::newRow("a month name in the date text") << 1 << QStringList{u"march"_s} << QStringList{u"Team meeting"_s};
+        QTest::newRow("digits as the date text has them") << 1 << QStringList{u"31, 2"_s} << QStringList{u"Budget"_s};
+        QTest::newRow("note text, descending") << 2 << all << QStringList{u"Budget"_s, u"(none)"_s, u"Team meeting"_s, u"apples"_s};
+        QTest::newRow("MEET in the note text") << 2 << QStringList{u"MEET"_s} << QStringList{u"Budget"_s};
+        QTest::newRow("no trimming") << 0 << QStringList{u" apples"_s} << QStringList();
+        QTest::newRow("an edited subject, after the unwind") << 0 << QStringList{u"edit"_s, u"ORCH"_s} << QStringList{u"Orchard"_s};
+        QTest::newRow("a new note, after the unwind") << 0 << QStringList{u"add"_s, u"gar"_s} << QStringList{u"Garage"_s};
+        QTest::newRow("typing on") << 0 << QStringList{u"e"_s, u"ee"_s, u"eet"_s} << QStringList{u"Team meeting"_s};
+        QTest::newRow("back to a shorter text") << 0 << QStringList{u"e"_s, u"ee"_s, u"e"_s}
+                                               << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s};
+        QTest::newRow("a text holding the last one") << 0 << QStringList{u"g"_s, u"dg"_s} << QStringList{u"Budget"_s};
+        QTest::newRow("a row deleted from the whole list")
+            << 0 << QStringList{u"e"_s, QString(), u"delete:0"_s, u"e"_s} << QStringList{u"Team meeting"_s, u"Budget"_s};
     }
 
     void sortsAndSearchesBySegment()
     {
         QFETCH(int, segment);
-        QFETCH(QString, search);
+        QFETCH(QStringList, steps);
         QFETCH(QStringList, subjects);
-        QFETCH(QString, change);
         TestEnvironment environment;
         insertNotes(someNotes);
         NotesTableViewController controller;
@@ -118,15 +120,20 @@ private Q_SLOTS:
         // The searched field and list are those of the search's own moment, never of an earlier keystroke.
         controller.updateSearchResults(u"a"_s);
         controller.segmentedControlAction(segment);
-        if (change == u"edit"_s) {
-            AppDelegate::shared().viewContext().fetch<Notes>(Notes::fetchRequest()).constFirst()->setSubject(u"Orchard"_s);
-            QVERIFY(!AppDelegate::shared().viewContext().save());
-            controller.unwindToNotesSegue();
-        } else if (change == u"add"_s) {
-            insertNotes({u"Garage|oil|-|-|-|6|1|AM"_s});
-            controller.unwindToNotesSegue();
+        for (const QString &step : std::as_const(steps)) {
+            if (step == u"edit"_s) {
+                AppDelegate::shared().viewContext().fetch<Notes>(Notes::fetchRequest()).constFirst()->setSubject(u"Orchard"_s);
+                QVERIFY(!AppDelegate::shared().viewContext().save());
+                controller.unwindToNotesSegue();
+            } else if (step == u"add"_s) {
+                insertNotes({u"Garage|oil|-|-|-|6|1|AM"_s});
+                controller.unwindToNotesSegue();
+            } else if (step.startsWith(u"delete:"_s)) {
+                controller.deleteRow(step.mid(7).toInt());
+            } else {
+                controller.updateSearchResults(step);
+            }
         }
-        controller.updateSearchResults(search);
 
         QCOMPARE(subjectsShown(*controller.rows()), subjects);
         const QStringList placeholders{u"Search Notes by Subject"_s, u"Search Notes by Date"_s, u"Search Notes by Note"_s};
@@ -162,35 +169,6 @@ private Q_SLOTS:
         QCOMPARE(storedNotes(), before);
         QVERIFY(!controller.canUndoDelete());
         QCOMPARE(subjectsShown(*controller.rows()).count(u"Team meeting"_s), 1);
-    }
-
-    void keystrokesOneAfterAnother_data()
-    {
-        QTest::addColumn<QStringList>("steps"); // search texts, or "delete:N" for a row deleted
-        QTest::addColumn<QStringList>("subjects");
-        QTest::newRow("typing on") << QStringList{u"e"_s, u"ee"_s, u"eet"_s} << QStringList{u"Team meeting"_s};
-        QTest::newRow("back to a shorter text") << QStringList{u"e"_s, u"ee"_s, u"e"_s}
-                                               << QStringList{u"apples"_s, u"Team meeting"_s, u"Budget"_s};
-        QTest::newRow("a text holding the last one") << QStringList{u"g"_s, u"dg"_s} << QStringList{u"Budget"_s};
-        QTest::newRow("a row deleted from the whole list")
-            << QStringList{u"e"_s, QString(), u"delete:0"_s, u"e"_s} << QStringList{u"Team meeting"_s, u"Budget"_s};
-    }
-
-    void keystrokesOneAfterAnother()
-    {
-        QFETCH(QStringList, steps);
-        QFETCH(QStringList, subjects);
-        TestEnvironment environment;
-        insertNotes(someNotes);
-        NotesTableViewController controller;
-        controller.viewWillAppear();
-        for (const QString &step : std::as_const(steps)) {
-            if (step.startsWith(u"delete:"_s))
-                controller.deleteRow(step.mid(7).toInt());
-            else
-                controller.updateSearchResults(step);
-        }
-        QCOMPARE(subjectsShown(*controller.rows()), subjects);
     }
 
     void appearanceClearsTheChoice()

@@ -43,8 +43,7 @@ private Q_SLOTS:
         QQmlApplicationEngine engine;
         QQuickWindow *window = openFromCover(engine, u"NotesButton"_s, u"NotesTableView"_s);
         QVERIFY(window);
-        click(window, waitForItem(window, u"AddButton"_s));
-        QTRY_COMPARE(topPage(window), u"EditNotesView"_s);
+        QVERIFY(clickTo(window, u"AddButton"_s, u"EditNotesView"_s));
         QCOMPARE(waitForItem(window, u"DateTextField"_s)->property("text").toString(), u"Wednesday, March 3, 2027"_s);
         typeInto(window, waitForItem(window, u"SubjectTextField"_s), u"Picnic"_s);
         // The date picker by keyboard: a month on, then Enter.
@@ -56,8 +55,7 @@ private Q_SLOTS:
                      u"Saturday, April 3, 2027"_s);
         QTRY_VERIFY(!findVisibleItem(window, u"monthWheel"_s));
         typeInto(window, waitForItem(window, u"NotesTextView"_s), u"bring plums"_s);
-        click(window, waitForItem(window, u"SaveButton"_s));
-        QTRY_COMPARE(topPage(window), u"NotesTableView"_s);
+        QVERIFY(clickTo(window, u"SaveButton"_s, u"NotesTableView"_s));
         QCOMPARE(storedSubjects(), QStringList{u"Picnic|bring plums"_s});
 
         typeInto(window, waitForItem(window, u"searchField"_s), u"PICN"_s);
@@ -69,8 +67,7 @@ private Q_SLOTS:
         QQuickItem *text = waitForItem(window, u"NotesTextView"_s);
         QCOMPARE(text->property("text").toString(), u"bring plums"_s);
         typeInto(window, text, u" and pears"_s);
-        click(window, waitForItem(window, u"SaveButton"_s));
-        QTRY_COMPARE(topPage(window), u"NotesTableView"_s);
+        QVERIFY(clickTo(window, u"SaveButton"_s, u"NotesTableView"_s));
         QCOMPARE(storedSubjects(), QStringList{u"Picnic|bring plums and pears"_s});
 
         // Swiped left, the row offers "delete".
@@ -87,8 +84,7 @@ private Q_SLOTS:
         QTRY_VERIFY(storedSubjects().isEmpty());
         QVERIFY(waitForItem(window, u"UndoButton"_s));
         QVERIFY(!Alerts::shared().showing());
-        click(window, waitForItem(window, u"backButton"_s));
-        QTRY_COMPARE(topPage(window), u"CoverView"_s);
+        QVERIFY(clickTo(window, u"backButton"_s, u"CoverView"_s));
     }
 };
 

@@ -31,13 +31,7 @@ private Q_SLOTS:
     void initTestCase() { importLarkwellsModule(); }
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
 
-    void cleanup()
-    {
-        Sharing::shared().cancel();
-        dismissAlerts();
-        Sharing::shared().setCanSendTextForTesting(std::nullopt);
-        Sharing::shared().setCanSendMailForTesting(std::nullopt);
-    }
+    void cleanup() { Sharing::shared().cancel(); dismissAlerts(); }
 
     void sheetOffersWhatTheDesktopCanDo_data()
     {

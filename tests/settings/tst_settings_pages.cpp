@@ -91,8 +91,7 @@ private Q_SLOTS:
         QQmlApplicationEngine engine;
         QQuickWindow *window = openFromCover(engine, u"UserDefaultsButton"_s, u"DefaultsView"_s);
         QVERIFY(window);
-        click(window, waitForItem(window, u"AvailableWallpaperButton"_s));
-        QTRY_COMPARE(topPage(window), u"ViewerWallpaperTableView"_s);
+        QVERIFY(clickTo(window, u"AvailableWallpaperButton"_s, u"ViewerWallpaperTableView"_s));
         QVERIFY(!findVisibleItem(window, u"NoneInUseLabel"_s));
         QQuickItem *row = waitForItem(window, u"row-0"_s);
         QCOMPARE(text(window, u"UseLabel"_s), u"Used"_s);
@@ -107,8 +106,7 @@ private Q_SLOTS:
 
         QTest::keyClick(window, Qt::Key_Escape);
         QTRY_COMPARE(topPage(window), u"DefaultsView"_s);
-        click(window, waitForItem(window, u"ListWallpaperButton"_s));
-        QTRY_COMPARE(topPage(window), u"ListWallpaperTableView"_s);
+        QVERIFY(clickTo(window, u"ListWallpaperButton"_s, u"ListWallpaperTableView"_s));
         QVERIFY(waitForItem(window, u"NoneInUseLabel"_s));
         QCOMPARE(text(window, u"NoneInUseLabel"_s), u"No wallpaper of this set is in use"_s);
         click(window, waitForItem(window, u"ListCheckBox"_s));
@@ -129,7 +127,6 @@ private Q_SLOTS:
         QTRY_VERIFY(Alerts::shared().showing());
         QCOMPARE(Alerts::shared().title(), u"Can't Send Email"_s);
         Alerts::shared().dismiss(0);
-        Mail::shared().setCanSendMailForTesting(std::nullopt);
     }
 };
 

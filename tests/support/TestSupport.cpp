@@ -7,8 +7,10 @@
 #include "FatalError.h"
 #include "FileChooserLook.h"
 #include "Log.h"
+#include "Mail.h"
 #include "PersistentContainer.h"
 #include "Selection.h"
+#include "Sharing.h"
 #include "SpeechDouble.h"
 #include "UserDefaults.h"
 
@@ -51,6 +53,11 @@ TestEnvironment::~TestEnvironment()
     AppDelegate::shared().reset();
     Log::setSink({});
     Clock::set({});
+    // What a test told the desktop could do goes with it.
+    Sharing::shared().setCanSendTextForTesting(std::nullopt);
+    Sharing::shared().setCanSendMailForTesting(std::nullopt);
+    Mail::shared().setCanSendMailForTesting(std::nullopt);
+    Mail::shared().setLauncherForTesting({});
 }
 
 void TestEnvironment::addBundleFile(const QString &name, const QByteArray &bytes)
@@ -167,6 +174,15 @@ void click(QQuickWindow *window, QQuickItem *item)
     QVERIFY(item);
     const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+}
+
+bool clickTo(QQuickWindow *window, const QString &objectName, const QString &page)
+{
+    QQuickItem *item = waitForItem(window, objectName);
+    if (!item)
+        return false;
+    click(window, item);
+    return QTest::qWaitFor([&] { return topPage(window) == page; });
 }
 
 QQuickItem *currentScreen(QQuickWindow *window)

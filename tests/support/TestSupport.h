@@ -67,6 +67,9 @@ QQuickItem *findVisibleItem(QQuickWindow *window, const QString &objectName);
 QQuickItem *waitForItem(QQuickWindow *window, const QString &objectName);
 // A mouse click at the item's centre.
 void click(QQuickWindow *window, QQuickItem *item);
+// Clicks the named item once it has settled, then waits for the screen `page` on top; false when
+// either never comes.
+bool clickTo(QQuickWindow *window, const QString &objectName, const QString &page);
 // The screen on top, once the stack has stopped moving; null while it moves.
 QQuickItem *currentScreen(QQuickWindow *window);
 // The object name of the screen on top, once the stack has stopped moving; empty while it moves.
