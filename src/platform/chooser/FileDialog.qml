@@ -25,6 +25,8 @@ DialogsImpl.FileDialogImpl {
     rightPadding: 16
     bottomPadding: 12
 
+    // The screen behind is shaded and takes no taps while the chooser is open.
+    modal: true
     standardButtons: T.Dialog.Open | T.Dialog.Cancel
     // Made before it has a window to take the app's colours from.
     Material.accent: Theme.tint
