@@ -40,6 +40,24 @@ private Q_SLOTS:
         QCOMPARE(folder, documents ? home.filePath(u"Documents"_s) : home.path());
     }
 
+    // On a tablet the chooser is a card: a tap beside it closes it and reaches nothing behind.
+    void aTapBesideTheCardStaysOnTheScreen()
+    {
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        dismissAlerts();
+        window->resize(1024, 768);
+        Navigator::shared().performSegue(u"AboutImportSegue"_s);
+        QObject *dialog = fileDialogShowing(window, QDir::tempPath());
+        QVERIFY(dialog);
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QTest::qWait(100);
+        QCOMPARE(topPage(window), u"AboutImportView"_s);
+    }
+
     void walkFoldersAndOpenAFile()
     {
         TestEnvironment environment;
