@@ -65,15 +65,11 @@ Dialog {
         background: null // the card's own, border included, shows through
         Repeater {
             model: Alerts.buttons
-            delegate: Button {
+            delegate: DialogButton {
                 required property string modelData
                 required property int index
                 objectName: "alertButton-" + modelData
                 text: modelData
-                flat: true
-                font.capitalization: Font.MixedCase // the alert's own spelling ("Ok")
-                Accessible.name: text
-                Accessible.onPressAction: if (visible && enabled) clicked()
                 onClicked: Alerts.dismiss(index)
             }
         }

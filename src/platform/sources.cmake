@@ -19,10 +19,12 @@ list(APPEND LARKWELLS_SOURCES
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
+    platform/DialogButton.qml
     platform/DialogCard.qml
     platform/SaveCopyDialog.qml
     platform/SaveTextDialog.qml
     platform/ShareSheet.qml
+    platform/chooser/ChooserButtons.qml
     platform/chooser/ChooserPath.qml
     platform/chooser/ChooserRow.qml
 )

@@ -4,6 +4,7 @@ import QtQuick.Controls
 import QtQuick.Controls.Material
 import QtQuick.Dialogs.quickimpl as DialogsImpl
 import QtQuick.Shapes
+import Larkwells
 
 // The chooser's path: an "Up" button, then a button for each folder from the top down to the
 // one shown, scrolled so that the shown folder stays in view on a narrow screen.
@@ -27,12 +28,10 @@ DialogsImpl.FolderBreadcrumbBar {
         clip: true
     }
 
-    buttonDelegate: Button {
+    buttonDelegate: DialogButton {
         required property int index
         required property string folderName
         text: folderName
-        flat: true
-        font.capitalization: Font.MixedCase
         leftPadding: 8
         rightPadding: 8
         // the style's least width spaced a one-letter folder such as "/" far from the next
@@ -57,7 +56,7 @@ DialogsImpl.FolderBreadcrumbBar {
         }
     }
 
-    upButton: ToolButton {
+    upButton: DialogButton {
         objectName: "upButton"
         x: control.leftPadding
         y: control.topPadding

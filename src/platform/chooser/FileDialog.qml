@@ -135,20 +135,23 @@ DialogsImpl.FileDialogImpl {
             verticalPadding: 0
             topInset: 0
             bottomInset: 0
+            // Without the style's ripple, which drew astray (see DialogButton).
+            background: Rectangle {
+                implicitHeight: 36
+                radius: 4
+                color: nameFiltersComboBox.down ? Qt.rgba(0, 0, 0, 0.1) : "transparent"
+                border.width: nameFiltersComboBox.visualFocus ? Theme.focusRingWidth : 0
+                border.color: Theme.tint
+            }
             Layout.row: 1
             Layout.column: 1
             Layout.topMargin: fileNameTextField.visible ? 0 : 12
             Layout.rightMargin: control.narrow ? 16 : 0
             Layout.fillWidth: true
         }
-        DialogButtonBox {
+        ChooserButtons {
             id: buttonBox
             standardButtons: control.standardButtons
-            spacing: 12
-            padding: 0
-            topInset: 0
-            bottomInset: 0
-            background: null
             Layout.row: control.narrow ? 2 : 1
             Layout.column: control.narrow ? 0 : 2
             Layout.columnSpan: control.narrow ? 2 : 1
