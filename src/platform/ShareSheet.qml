@@ -61,7 +61,7 @@ Drawer {
                 { name: "openwith", title: qsTr("Open With…") },
                 { name: "cancel", title: qsTr("Cancel") }
             ]
-            delegate: ItemDelegate {
+            delegate: SheetRow {
                 required property var modelData
                 objectName: "share-" + modelData.name
                 Layout.fillWidth: true

@@ -24,6 +24,7 @@ list(APPEND LARKWELLS_QML
     platform/SaveCopyDialog.qml
     platform/SaveTextDialog.qml
     platform/ShareSheet.qml
+    platform/SheetRow.qml
     platform/chooser/ChooserButtons.qml
     platform/chooser/ChooserPath.qml
     platform/chooser/ChooserRow.qml

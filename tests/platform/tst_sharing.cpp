@@ -57,6 +57,7 @@ private Q_SLOTS:
         QVERIFY(option(window, u"file"_s)->isVisible());
     }
 
+    // By the keyboard: Tab reaches the sheet's rows, Return presses one.
     void saveOpensTheFileDialog()
     {
         TestEnvironment environment;
@@ -64,7 +65,10 @@ private Q_SLOTS:
         const auto shown = showSheet(engine);
         QQuickWindow *window = shown.get();
         QVERIFY(window);
-        QMetaObject::invokeMethod(option(window, u"file"_s), "clicked");
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(window->activeFocusItem(), option(window, u"file"_s));
+        QTest::keyClick(window, Qt::Key_Return);
         QTRY_VERIFY(window->findChild<QObject *>(u"saveTextDialog"_s));
         auto *dialog = window->findChild<QObject *>(u"saveTextDialog"_s);
         QTRY_VERIFY(dialog->property("visible").toBool());
