@@ -61,7 +61,12 @@ Dialog {
         Accessible.description: text
     }
 
+    // Enter or Space answers an alert with one button; where there is a choice ("Discard" or
+    // "Keep Editing") nothing is chosen until Tab reaches a button.
+    onOpened: if (Alerts.buttons.length === 1) buttonBox.itemAt(0)?.forceActiveFocus()
+
     footer: DialogButtonBox {
+        id: buttonBox
         background: null // the card's own, border included, shows through
         Repeater {
             model: Alerts.buttons

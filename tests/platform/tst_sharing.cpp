@@ -148,15 +148,8 @@ private Q_SLOTS:
                                   u"It's recommended that you go to the User Defaults Menu and turn on wallpapers."_s,
                                   {u"Ok"_s}, {}});
         QQmlEngine engine;
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQmlComponent component(&engine);
-        component.setData(QStringLiteral("import QtQuick\nimport QtQuick.Controls\nimport Larkwells\n"
-                                         "ApplicationWindow { width: %1; height: 640; visible: true\n"
-                                         "AlertDialog { Component.onCompleted: open() } }").arg(width).toUtf8(),
-                          QUrl(u"qrc:/test/AlertWindow.qml"_s));
-        std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(window, qPrintable(component.errorString()));
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        const auto window = alertWindow(engine, width);
+        QVERIFY(window);
         auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
         QTRY_VERIFY(dialog->property("opened").toBool());
         QQuickItem *title = findItem(dialog->property("header").value<QQuickItem *>(), u"alertTitle"_s);
@@ -165,7 +158,47 @@ private Q_SLOTS:
         QVERIFY(!title->property("truncated").toBool());
     }
 
+    // Return answers an alert with one button; with a choice it picks nothing by itself.
+    void returnAnswersAnAlertWithOneButton_data()
+    {
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<bool>("answered");
+        QTest::newRow("one") << QStringList{u"Ok"_s} << true;
+        QTest::newRow("a choice") << QStringList{u"Discard"_s, u"Keep Editing"_s} << false;
+    }
+
+    void returnAnswersAnAlertWithOneButton()
+    {
+        QFETCH(QStringList, buttons);
+        QFETCH(bool, answered);
+        TestEnvironment environment;
+        int chosen = -1;
+        Alerts::shared().present({u"Title"_s, u"Message"_s, buttons, [&](int button) { chosen = button; }});
+        QQmlEngine engine;
+        const auto window = alertWindow(engine, 360);
+        QVERIFY(window);
+        QTRY_VERIFY(window->findChild<QObject *>(u"alertDialog"_s)->property("opened").toBool());
+        QTest::keyClick(window.get(), Qt::Key_Return);
+        QTest::qWait(50);
+        QCOMPARE(chosen, answered ? 0 : -1);
+        QCOMPARE(Alerts::shared().showing(), !answered);
+    }
+
 private:
+    std::unique_ptr<QQuickWindow> alertWindow(QQmlEngine &engine, int width)
+    {
+        engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&engine);
+        component.setData(QStringLiteral("import QtQuick\nimport QtQuick.Controls\nimport Larkwells\n"
+                                         "ApplicationWindow { width: %1; height: 640; visible: true\n"
+                                         "AlertDialog { Component.onCompleted: open() } }").arg(width).toUtf8(),
+                          QUrl(u"qrc:/test/AlertWindow.qml"_s));
+        std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
+        if (!window)
+            qWarning() << component.errorString();
+        return window && QTest::qWaitForWindowExposed(window.get()) ? std::move(window) : nullptr;
+    }
+
     std::unique_ptr<QQuickWindow> showSheet(QQmlEngine &engine)
     {
         engine.addImportPath(u"qrc:/qt/qml"_s);
