@@ -24,7 +24,6 @@ DialogsImpl.FileDialogDelegate {
 
     objectName: "file-" + fileName
     file: fileUrl
-    text: fileName // the label below shows it
     Accessible.name: fileName
     padding: 16
     verticalPadding: 8
