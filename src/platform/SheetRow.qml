@@ -10,10 +10,10 @@ ItemDelegate {
     focusPolicy: Qt.StrongFocus
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
-    background: Rectangle {
+    background: PressTint {
         implicitHeight: 48
-        color: row.down ? Qt.rgba(0, 0, 0, 0.1) : "transparent"
-        border.width: row.visualFocus ? Theme.focusRingWidth : 0
-        border.color: Theme.tint
+        radius: 0
+        pressed: row.down
+        focusRing: row.visualFocus
     }
 }

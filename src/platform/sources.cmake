@@ -21,6 +21,7 @@ list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml
     platform/DialogButton.qml
     platform/DialogCard.qml
+    platform/PressTint.qml
     platform/SaveCopyDialog.qml
     platform/SaveTextDialog.qml
     platform/ShareSheet.qml

@@ -135,13 +135,10 @@ DialogsImpl.FileDialogImpl {
             verticalPadding: 0
             topInset: 0
             bottomInset: 0
-            // Without the style's ripple, which drew astray (see DialogButton).
-            background: Rectangle {
+            background: PressTint {
                 implicitHeight: 36
-                radius: 4
-                color: nameFiltersComboBox.down ? Qt.rgba(0, 0, 0, 0.1) : "transparent"
-                border.width: nameFiltersComboBox.visualFocus ? Theme.focusRingWidth : 0
-                border.color: Theme.tint
+                pressed: nameFiltersComboBox.down
+                focusRing: nameFiltersComboBox.visualFocus
             }
             Layout.row: 1
             Layout.column: 1
