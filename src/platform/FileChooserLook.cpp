@@ -6,28 +6,20 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-class RowInterceptor : public QQmlAbstractUrlInterceptor
+class ChooserInterceptor : public QQmlAbstractUrlInterceptor
 {
 public:
     QUrl intercept(const QUrl &url, DataType type) override
     {
-        static const QString qts = u"qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/qml/"_s;
-        static const QString ours = u"qrc:/larkwells/chooser/"_s;
-        static const QStringList replaced{u"FileDialog.qml"_s};
-        if (type != QmlFile)
-            return url;
-        const QString address = url.toString();
-        for (const QString &name : replaced) {
-            if (address == qts + name)
-                return QUrl(ours + name);
-        }
-        return url;
+        static const QUrl qts(u"qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/qml/FileDialog.qml"_s);
+        static const QUrl ours(u"qrc:/larkwells/chooser/FileDialog.qml"_s);
+        return type == QmlFile && url == qts ? ours : url;
     }
 };
 }
 
 void FileChooserLook::install(QQmlEngine &engine)
 {
-    static RowInterceptor interceptor;
+    static ChooserInterceptor interceptor;
     engine.addUrlInterceptor(&interceptor);
 }

@@ -2,10 +2,10 @@
 
 class QQmlEngine;
 
-// The file chooser in our own layout. Qt's row places a file's date by the width of the chooser's
-// filter box, which on a phone is narrower than the date, so the date ran over the size; Qt's
-// chooser is a card of a fixed size whose buttons crowd its filter box on a phone, and whose card
-// vanishes without a graphics driver.
+// The file chooser in our own layout, loaded in place of Qt's: its card, path bar and rows are
+// ours, on Qt's bare chooser parts. Qt's styled chooser crowded its buttons and dates on a phone,
+// left its "Up" button nameless to a screen reader, and its card vanished without a graphics
+// driver.
 namespace FileChooserLook {
 void install(QQmlEngine &engine);
 }
