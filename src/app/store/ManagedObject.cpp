@@ -30,52 +30,59 @@ const EntityDescription &EntityDescription::named(const QString &entityName)
     fatalError(u"Fatal error: the model has no entity named \"%1\""_s.arg(entityName));
 }
 
+qsizetype EntityDescription::indexOf(const QString &attribute) const
+{
+    for (qsizetype i = 0; i < attributes.size(); ++i) {
+        if (attributes[i].name == attribute)
+            return i;
+    }
+    return -1;
+}
+
 std::optional<AttributeType> EntityDescription::typeOf(const QString &attribute) const
 {
-    for (const AttributeDescription &description : attributes) {
-        if (description.name == attribute)
-            return description.type;
-    }
-    return std::nullopt;
+    const qsizetype index = indexOf(attribute);
+    return index < 0 ? std::nullopt : std::optional(attributes[index].type);
 }
 
 ManagedObject::ManagedObject(const EntityDescription &entity, ManagedObjectContext *context)
     : m_entity(entity)
     , m_context(context)
+    , m_values(entity.attributes.size())
 {
 }
 
 void ManagedObject::setValueForKey(const QString &key, const QVariant &value)
 {
-    const auto type = m_entity.typeOf(key);
-    if (!type)
+    const qsizetype index = m_entity.indexOf(key);
+    if (index < 0)
         fatalError(u"Fatal error: the entity %1 has no attribute \"%2\""_s.arg(m_entity.name, key));
     QVariant stored;
     if (value.isValid()) {
-        switch (*type) {
+        switch (m_entity.attributes[index].type) {
         case AttributeType::String: stored = value.toString(); break;
         case AttributeType::Integer16: stored = int(qint16(value.toInt())); break;
         case AttributeType::Date: stored = value.toDateTime().toLocalTime(); break; // as read back
         }
     }
-    m_values.insert(key, stored);
+    m_values[index] = stored;
     if (!m_inserted && m_context)
         m_context->markUpdated(this);
 }
 
 std::optional<QString> ManagedObject::string(const QString &key) const
 {
-    const QVariant value = m_values.value(key);
+    const QVariant value = valueForKey(key);
     return value.isValid() ? std::optional(value.toString()) : std::nullopt;
 }
 
 qint16 ManagedObject::integer16(const QString &key) const
 {
-    return qint16(m_values.value(key).toInt());
+    return qint16(valueForKey(key).toInt());
 }
 
 std::optional<QDateTime> ManagedObject::date(const QString &key) const
 {
-    const QVariant value = m_values.value(key);
+    const QVariant value = valueForKey(key);
     return value.isValid() ? std::optional(value.toDateTime()) : std::nullopt;
 }

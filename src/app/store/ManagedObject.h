@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QDateTime>
-#include <QHash>
+#include <QList>
 #include <QString>
 #include <QVariant>
 #include <optional>
@@ -21,6 +21,8 @@ struct EntityDescription {
     QList<AttributeDescription> attributes;
 
     std::optional<AttributeType> typeOf(const QString &attribute) const;
+    // The attribute's place in column order, or -1 when the entity has none of that name.
+    qsizetype indexOf(const QString &attribute) const;
     static const EntityDescription &named(const QString &entityName);
     static const QList<EntityDescription> &model();
 };
@@ -39,7 +41,7 @@ public:
     ManagedObjectContext *managedObjectContext() const { return m_context; }
     qint64 objectID() const { return m_id; } // 0 until the object is first saved
 
-    QVariant valueForKey(const QString &key) const { return m_values.value(key); }
+    QVariant valueForKey(const QString &key) const { return m_values.value(m_entity.indexOf(key)); }
     // Assigns by attribute name; the value is converted to the attribute's type.
     void setValueForKey(const QString &key, const QVariant &value);
 
@@ -65,7 +67,8 @@ private:
     const EntityDescription &m_entity;
     ManagedObjectContext *m_context;
     qint64 m_id = 0;
-    QHash<QString, QVariant> m_values;
+    // In the entity's column order: a hash per object cost kilobytes a page and a note.
+    QList<QVariant> m_values;
     bool m_inserted = false;
     bool m_updated = false;
     bool m_deleted = false;

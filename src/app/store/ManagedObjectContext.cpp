@@ -159,10 +159,8 @@ ManagedObject *ManagedObjectContext::objectForRow(const EntityDescription &entit
         m_objects.push_back(std::move(fresh));
     }
     if (!object->m_updated) {
-        for (qsizetype i = 0; i < entity.attributes.size(); ++i) {
-            const AttributeDescription &attribute = entity.attributes[i];
-            object->m_values.insert(attribute.name, fromColumn(attribute.type, query.value(int(i) + 1)));
-        }
+        for (qsizetype i = 0; i < entity.attributes.size(); ++i)
+            object->m_values[i] = fromColumn(entity.attributes[i].type, query.value(int(i) + 1));
     }
     return object;
 }
@@ -279,10 +277,8 @@ void ManagedObjectContext::writeObject(ManagedObject *object, std::optional<Stor
     const EntitySql &sql = sqlFor(entity);
     QSqlQuery &query = prepared(object->m_deleted ? sql.remove : object->m_inserted ? sql.insert : sql.update);
     if (!object->m_deleted) {
-        for (qsizetype i = 0; i < entity.attributes.size(); ++i) {
-            const AttributeDescription &attribute = entity.attributes[i];
-            query.bindValue(sql.valueNames[i], toColumn(attribute.type, object->m_values.value(attribute.name)));
-        }
+        for (qsizetype i = 0; i < entity.attributes.size(); ++i)
+            query.bindValue(sql.valueNames[i], toColumn(entity.attributes[i].type, object->m_values[i]));
     }
     if (!object->m_inserted)
         query.bindValue(u":id"_s, object->m_id);
