@@ -72,7 +72,8 @@ Popup {
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true
-            model: picker.defaults.FontPickerRows
+            // Rows are drawn in their own faces: a closed picker loads none of them.
+            model: picker.visible ? picker.defaults.FontPickerRows : []
             keyNavigationEnabled: true
             activeFocusOnTab: true
             boundsBehavior: Flickable.StopAtBounds
