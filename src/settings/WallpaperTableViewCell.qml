@@ -46,12 +46,15 @@ ListCell {
             objectName: cell.outletPrefix + "ImageView"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            source: cell.image
+            // A band is drawn only as wide as the row shows it, as list rows cut it: drawn whole,
+            // it was four times the pixels.
+            source: cell.wholePicture ? cell.image : width > 0 ? "image://covering/" + cell.imageName : ""
             asynchronous: true
-            fillMode: cell.wholePicture ? Image.PreserveAspectFit : Image.PreserveAspectCrop
+            fillMode: cell.wholePicture ? Image.PreserveAspectFit : Image.Stretch
             // The row's own height, known before the layout sizes the picture: a picture asked
             // for at no size would be decoded whole.
             sourceSize.height: (cell.rowHeight - cell.topPadding - cell.bottomPadding) * Screen.devicePixelRatio
+            sourceSize.width: cell.wholePicture ? 0 : Math.round(width * Screen.devicePixelRatio)
             Accessible.ignored: true
         }
         ColumnLayout {

@@ -1,6 +1,7 @@
 #include "WallpaperTableViewController.h"
 
 #include "Bundle.h"
+#include "CoveringPicture.h"
 #include "PreferenceKeys.h"
 #include "Wallpapers.h"
 
@@ -66,6 +67,11 @@ WallpaperTableViewController::WallpaperTableViewController(QString title, const 
     , m_title(std::move(title))
     , m_WallpaperList(names)
 {
+}
+
+void WallpaperTableViewController::classBegin()
+{
+    CoveringPicture::install(qmlEngine(this));
 }
 
 void WallpaperTableViewController::viewDidLoad()

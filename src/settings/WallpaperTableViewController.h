@@ -3,6 +3,7 @@
 #include <QAbstractListModel>
 #include <QObject>
 #include <QQmlEngine>
+#include <QQmlParserStatus>
 #include <QStringList>
 
 // The rows of one wallpaper set: each picture, whether it may be drawn, and "Used" or
@@ -34,9 +35,10 @@ private:
 };
 
 // A screen that lets the user mark which wallpapers of a set readers or lists may draw.
-class WallpaperTableViewController : public QObject
+class WallpaperTableViewController : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
     QML_UNCREATABLE("Open the reader or the list wallpaper screen")
     Q_PROPERTY(QString title READ title CONSTANT)
@@ -48,6 +50,10 @@ public:
     WallpaperListModel *WallpaperList() { return &m_WallpaperList; }
     // No picture of the set can be drawn, so the screens of the set show none.
     bool noneInUse() const { return m_noneInUse; }
+
+    // The rows' pictures are asked for as the screen is made.
+    void classBegin() override;
+    void componentComplete() override {}
 
     Q_INVOKABLE void viewDidLoad();
     // The row's check box changed to `checkState` (0 unchecked, 1 checked, 2 mixed).

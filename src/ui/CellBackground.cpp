@@ -1,46 +1,13 @@
 #include "CellBackground.h"
 
+#include "CoveringPicture.h"
+
 #include <QCache>
-#include <QFile>
-#include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
 #include <QQuickWindow>
-#include <QSvgRenderer>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-QString localPath(const QUrl &url)
-{
-    return url.scheme() == u"qrc"_s ? u':' + url.path() : url.toLocalFile();
-}
-
-// The picture scaled to cover `size`, centred: what a strip cut from its middle looks like.
-QImage renderCovering(const QString &path, const QSize &size)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (path.endsWith(u".svg"_s)) {
-        QSvgRenderer renderer(path);
-        const QSizeF natural = renderer.defaultSize();
-        if (natural.isEmpty())
-            return {};
-        const qreal scale = qMax(size.width() / natural.width(), size.height() / natural.height());
-        const QSizeF drawn = natural * scale;
-        renderer.render(&painter, QRectF(QPointF((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2), drawn));
-    } else {
-        const QImage source(path);
-        if (source.isNull())
-            return {};
-        const QImage scaled = source.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-        painter.drawImage(QPoint((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2), scaled);
-    }
-    return image;
-}
-}
 
 CellBackground::CellBackground(QQuickItem *parent)
     : QQuickPaintedItem(parent)
@@ -73,7 +40,7 @@ QImage CellBackground::croppedWallpaper(const QSize &size) const
     const QString key = m_wallpaper.toString() + u'@' + QString::number(size.width()) + u'x' + QString::number(size.height());
     if (const QImage *cached = cache.object(key))
         return *cached;
-    QImage image = renderCovering(localPath(m_wallpaper), size);
+    QImage image = CoveringPicture::render(m_wallpaper, size);
     cache.insert(key, new QImage(image), int(image.sizeInBytes()));
     return image;
 }

@@ -2,6 +2,7 @@
 list(APPEND LARKWELLS_SOURCES
     ui/Appearance.h ui/Appearance.cpp
     ui/CellBackground.h ui/CellBackground.cpp
+    ui/CoveringPicture.h ui/CoveringPicture.cpp
     ui/ReadAloud.h ui/ReadAloud.cpp
     ui/ReaderScreen.h ui/ReaderScreen.cpp
     ui/Wallpapers.h ui/Wallpapers.cpp

@@ -109,6 +109,11 @@ private Q_SLOTS:
         QVERIFY(clickTo(window, u"ListWallpaperButton"_s, u"ListWallpaperTableView"_s));
         QVERIFY(waitForItem(window, u"NoneInUseLabel"_s));
         QCOMPARE(text(window, u"NoneInUseLabel"_s), u"No wallpaper of this set is in use"_s);
+        // A band is drawn as wide as its row shows it, not whole.
+        QQuickItem *band = findItem(waitForItem(window, u"row-0"_s), u"ListImageView"_s);
+        QTRY_COMPARE(band->property("status").toInt(), 1); // Image.Ready
+        QCOMPARE(qRound(band->implicitWidth()), qRound(band->width()));
+        QCOMPARE(qRound(band->implicitHeight()), qRound(band->height()));
         click(window, waitForItem(window, u"ListCheckBox"_s));
         QTRY_VERIFY(!findVisibleItem(window, u"NoneInUseLabel"_s));
         QCOMPARE(UserDefaults::standard().stringForKey(u"AM-36"_s), u"true"_s);
