@@ -46,8 +46,8 @@ ListCell {
             objectName: cell.outletPrefix + "ImageView"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            // A band is drawn only as wide as the row shows it, as list rows cut it: drawn whole,
-            // it was four times the pixels.
+            // A band is drawn only as wide as the row shows it, cut as list rows cut it: drawn
+            // whole it would be four times the pixels, and as many milliseconds.
             source: cell.wholePicture ? cell.image : width > 0 ? "image://covering/" + cell.imageName : ""
             asynchronous: true
             fillMode: cell.wholePicture ? Image.PreserveAspectFit : Image.Stretch

@@ -7,8 +7,6 @@
 #include <QPainterPath>
 #include <QQuickWindow>
 
-using namespace Qt::StringLiterals;
-
 CellBackground::CellBackground(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
