@@ -138,17 +138,19 @@ ApplicationWindow {
     }
 
     // The share sheet and the alert dialog are made, and even compiled, when first wanted: most
-    // launches show neither. The dialog is built between frames, so the screen under it (the
-    // cover, on a first launch) is not held up; it opens faded out in any case.
+    // launches show neither. The dialog is built between frames, and not before the window's
+    // first frame, so the screen under it (the cover, on a first launch) is not held up; it opens
+    // faded out in any case.
     property QtObject shareSheet: null
     property QtObject alertDialog: null
     property bool alertDialogComing: false
+    property bool firstFrameShown: false
     function makeShareSheet() {
         if (Sharing.showing && !shareSheet)
             shareSheet = Qt.createComponent("../platform/ShareSheet.qml").createObject(window)
     }
     function makeAlertDialog() {
-        if (!Alerts.showing || alertDialog || alertDialogComing)
+        if (!Alerts.showing || alertDialog || alertDialogComing || !firstFrameShown)
             return
         alertDialogComing = true
         buildLater("../platform/AlertDialog.qml", window, () => true, dialog => {
@@ -164,8 +166,13 @@ ApplicationWindow {
         target: Alerts
         function onCurrentChanged() { window.makeAlertDialog() }
     }
-    Component.onCompleted: {
-        Device.windowSize = Qt.size(width, height)
-        makeAlertDialog() // an alert raised while the window was being built
+    Connections {
+        target: window
+        enabled: !window.firstFrameShown
+        function onFrameSwapped() {
+            window.firstFrameShown = true
+            window.makeAlertDialog() // an alert raised while the window was being built
+        }
     }
+    Component.onCompleted: Device.windowSize = Qt.size(width, height)
 }
