@@ -65,7 +65,9 @@ Item {
         target: null
         yAxis.enabled: false
         acceptedDevices: PointerDevice.TouchScreen
-        enabled: turner.reader.hasPreviousPage || turner.reader.hasNextPage
+        // A page zoomed in pans sideways instead; the arrows still turn it.
+        enabled: (turner.reader.hasPreviousPage || turner.reader.hasNextPage)
+                 && turner.surface.contentWidth <= turner.surface.width
         onActiveChanged: {
             if (!active && Math.abs(persistentTranslation.x) > Math.max(48, turner.width / 8))
                 turner.turn(persistentTranslation.x < 0 ? 1 : -1)

@@ -3,8 +3,9 @@ import QtQuick.Controls
 import Larkwells
 
 // A reader's page: the styled, scrolling text over the reader's wallpaper, which runs behind
-// the whole text however long. Pinch zooms; Ctrl with the wheel, plus or minus asks for the
-// next text size as the stepper would. Tab leaves the text instead of typing a tab.
+// the whole text however long. Pinch zooms about the middle of the view, and a page zoomed in
+// pans every way; Ctrl with the wheel, plus or minus asks for the next text size as the stepper
+// would. Tab leaves the text instead of typing a tab.
 Flickable {
     id: surface
     required property ReaderAppearance appearance
@@ -19,16 +20,31 @@ Flickable {
 
     function endEditing() { textView.focus = false }
 
-    contentWidth: width
+    contentWidth: Math.max(width, width * appearance.zoom)
     contentHeight: Math.max(height, textView.implicitHeight * appearance.zoom)
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     ScrollBar.vertical: ScrollBar {}
+    ScrollBar.horizontal: ScrollBar {}
+
+    // What was in the middle of the view stays there as the zoom changes.
+    property real shownZoom: 1
+    Connections {
+        target: surface.appearance
+        function onZoomChanged() {
+            const change = surface.appearance.zoom / surface.shownZoom
+            surface.shownZoom = surface.appearance.zoom
+            const middleX = (surface.contentX + surface.width / 2) * change
+            const middleY = (surface.contentY + surface.height / 2) * change
+            surface.contentX = Math.max(0, Math.min(middleX - surface.width / 2, surface.contentWidth - surface.width))
+            surface.contentY = Math.max(0, Math.min(middleY - surface.height / 2, surface.contentHeight - surface.height))
+        }
+    }
 
     // The night look's dark surface, under the wallpaper; the wallpaper is dimmed by the same colour.
     Rectangle {
         objectName: "nightSurface"
-        width: surface.width
+        width: surface.contentWidth
         height: surface.contentHeight
         color: surface.appearance.nightSurfaceColor
         visible: surface.appearance.night
@@ -36,13 +52,13 @@ Flickable {
 
     Image {
         objectName: "img"
-        width: surface.width
+        width: surface.contentWidth
         height: surface.contentHeight
         // Not before the page has its width, and never asked for at no size, which would decode
         // the whole picture.
         source: surface.width > 0 ? surface.appearance.wallpaper : ""
         fillMode: Image.PreserveAspectCrop
-        sourceSize.width: Math.min(1600, Math.max(1, surface.width) * Screen.devicePixelRatio)
+        sourceSize.width: Math.min(1600, Math.max(1, width) * Screen.devicePixelRatio)
         asynchronous: true
         visible: status === Image.Ready
 
@@ -59,8 +75,13 @@ Flickable {
         id: textView
         objectName: "PoemPrayerTextView"
         width: surface.width
-        scale: surface.appearance.zoom
-        transformOrigin: Item.Top
+        // Zoomed in, the text grows to the right and down into the content it pans over; zoomed
+        // out, it stays centred.
+        transform: Scale {
+            origin.x: surface.appearance.zoom < 1 ? textView.width / 2 : 0
+            xScale: surface.appearance.zoom
+            yScale: surface.appearance.zoom
+        }
         z: 1
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
@@ -117,13 +138,20 @@ Flickable {
     TapHandler {
         onTapped: surface.endEditing()
     }
-    PinchHandler {
-        target: null
-        property real lastScale: 1
-        onActiveChanged: lastScale = 1
-        onActiveScaleChanged: {
-            surface.pinched(activeScale / lastScale)
-            lastScale = activeScale
+    // Over the text, which would otherwise take the first finger for itself before a pinch
+    // below it could see the second.
+    Item {
+        parent: surface
+        anchors.fill: parent
+        z: 2
+        PinchHandler {
+            target: null
+            property real lastScale: 1
+            onActiveChanged: lastScale = 1
+            onActiveScaleChanged: {
+                surface.pinched(activeScale / lastScale)
+                lastScale = activeScale
+            }
         }
     }
 }

@@ -26,18 +26,37 @@ const QStringList pages{u"January 1|AM|1|1|1|F|Frost on the gate"_s, u"January 1
                         u"January 2|AM|1|2|3|T|Bread rising"_s, u"January 2|PM|1|2|4|F|The owl at the window"_s,
                         u"February 3|AM|2|3|67|F|"_s + longPage};
 
+// One touch screen for the whole run: Qt keeps every device registered until exit.
+QPointingDevice *touchScreen()
+{
+    static QPointingDevice *screen = QTest::createTouchDevice();
+    return screen;
+}
+
 // Left/right slide of a finger across the middle of the text.
 void swipe(QQuickWindow *window, int direction)
 {
-    static QPointingDevice *finger = QTest::createTouchDevice();
     const QPoint middle(window->width() / 2, window->height() / 2);
     const int step = -direction * window->width() / 20;
-    QTest::touchEvent(window, finger).press(0, middle, window);
+    QTest::touchEvent(window, touchScreen()).press(0, middle, window);
     for (int i = 1; i <= 8; ++i) {
-        QTest::touchEvent(window, finger).move(0, middle + QPoint(step * i, 0), window);
+        QTest::touchEvent(window, touchScreen()).move(0, middle + QPoint(step * i, 0), window);
         QTest::qWait(10);
     }
-    QTest::touchEvent(window, finger).release(0, middle + QPoint(step * 8, 0), window);
+    QTest::touchEvent(window, touchScreen()).release(0, middle + QPoint(step * 8, 0), window);
+}
+
+// Two fingers about the middle of the window spread from 80 to 160 pixels apart.
+void spread(QQuickWindow *window)
+{
+    const QPoint middle(window->width() / 2, window->height() / 2);
+    const auto apart = [](int i) { return QPoint(40 + 4 * i, 0); };
+    QTest::touchEvent(window, touchScreen()).press(0, middle - apart(0), window).press(1, middle + apart(0), window);
+    for (int i = 1; i <= 10; ++i) {
+        QTest::touchEvent(window, touchScreen()).move(0, middle - apart(i), window).move(1, middle + apart(i), window);
+        QTest::qWait(10);
+    }
+    QTest::touchEvent(window, touchScreen()).release(0, middle - apart(10), window).release(1, middle + apart(10), window);
 }
 
 void turn(QQuickWindow *window, const QString &how, int direction)
@@ -218,6 +237,33 @@ private Q_SLOTS:
         QCOMPARE(topPage(window), u"SearchTableView"_s);
         QTest::keyClick(window, Qt::Key_Escape);
         QTRY_COMPARE(topPage(window), u"CoverView"_s);
+    }
+
+    // Spread fingers zoom the long page about the middle of the view; zoomed in, a sideways swipe
+    // pans to the cut-off edge instead of turning the page.
+    void pinchZoomsAndPans()
+    {
+        TestEnvironment environment;
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openReader(engine, u"TodayButton"_s, u"segment-All"_s, 4);
+        QVERIFY(window);
+        QQuickItem *surface = waitForItem(window, u"scroller"_s);
+        const auto middle = [surface](const char *axis, const char *size) {
+            return (surface->property(axis).toDouble() + surface->property(size).toDouble() / 2)
+                / surface->property("contentWidth").toDouble() * surface->width();
+        };
+        surface->setProperty("contentY", 600);
+        const double middleY = middle("contentY", "height");
+        spread(window);
+        QTRY_VERIFY(surface->property("contentWidth").toDouble() > 1.3 * surface->width());
+        QVERIFY(std::abs(middle("contentX", "width") - surface->width() / 2) < 2);
+        QVERIFY(std::abs(middle("contentY", "height") - middleY) < 2);
+
+        const double panned = surface->property("contentX").toDouble();
+        swipe(window, 1);
+        QTRY_VERIFY(surface->property("contentX").toDouble() > panned + 20);
+        QCOMPARE(selectedPage(), u"February 3|AM|2|3|67|F"_s);
     }
 
     // A favourite ticked in the reader shows in the list; typing changes the page: the caret keeps the
