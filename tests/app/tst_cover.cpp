@@ -1,55 +1,41 @@
-#include "Alerts.h"
-#include "Clock.h"
+#include "CoverCache.h"
 #include "CoverViewController.h"
 #include "Navigator.h"
-#include "PageRows.h"
+#include "PreferenceKeys.h"
 #include "ReviewPrompt.h"
-#include "Selection.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
-#include <QAccessible>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-// Presses as a screen reader does; false when the item offers no press at all.
-bool pressAsScreenReader(QQuickItem *item)
+// One launch's cover screen: the size it asks for, then its start-up.
+QUrl launch(QSize pixelSize)
 {
-    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
-    if (!accessible || !accessible->actionInterface())
-        return false;
-    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    return true;
+    CoverViewController cover;
+    cover.prepareCover(pixelSize, 1);
+    cover.viewDidLoad();
+    return cover.coverSource();
 }
 }
 
+// The cover screen: the review prompt, the keyboard, and the cover picture kept under the data
+// folder, drawn once a size, read back by later launches, the picture of an earlier size removed,
+// and the vector cover whenever nothing can be kept.
 class TestCover : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
-
-    // The flip itself is checked in the window; leaving the cover closes the menu, never opens it.
-    void leavingClosesTheMenuComingBackClearsTheList()
-    {
-        TestEnvironment environment;
-        Selection::shared().setSelectedList(u"FAV"_s);
-        CoverViewController cover;
-        cover.viewWillDisappear();
-        QVERIFY(!cover.menuOpen());
-        cover.HandleSelection();
-        cover.viewWillDisappear();
-        QVERIFY(!cover.menuOpen());
-        cover.viewWillAppear();
-        QCOMPARE(Selection::shared().selectedList(), QString());
-    }
 
     void reviewPromptCountsPageOpenings_data()
     {
@@ -78,32 +64,6 @@ private Q_SLOTS:
             QCOMPARE(UserDefaults::standard().integerForKey(u"reviewWorthyActionCount"_s), counts[i]);
         }
         QCOMPARE(UserDefaults::standard().stringForKey(u"lastReviewRequestAppVersion"_s).value_or(u"-"_s), lastVersion);
-    }
-
-    // On the page list a screen reader's press marks the row's favourite and switches the segment.
-    void screenReaderOnThePageList()
-    {
-        TestEnvironment environment;
-        Clock::set([] { return QDateTime(QDate(2027, 6, 2), QTime(8, 0)); });
-        insertPages({u"May 1|AM|5|1|1|F|Dew on the gate"_s});
-        QQmlApplicationEngine engine;
-        QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
-        QVERIFY(window);
-        QQuickItem *row = waitForItem(window, u"row-0"_s);
-        QVERIFY(row);
-        QQuickItem *favorite = findItem(row, u"FavoriteCheckBox"_s)->parentItem()->parentItem(); // the whole mark
-        QAccessibleInterface *box = QAccessible::queryAccessibleInterface(favorite);
-        QCOMPARE(box->role(), QAccessible::CheckBox);
-        QCOMPARE(box->text(QAccessible::Name), u"Favorite"_s);
-        QVERIFY(pressAsScreenReader(favorite));
-        QTRY_VERIFY(box->state().checked);
-        QCOMPARE(storedRows<PoemPrayer>({u"favorite"_s}), QStringList{u"T"_s});
-
-        QQuickItem *today = waitForItem(window, u"segment-Today"_s);
-        QCOMPARE(QAccessible::queryAccessibleInterface(today)->role(), QAccessible::PageTab);
-        QVERIFY(pressAsScreenReader(today));
-        QTRY_VERIFY(QAccessible::queryAccessibleInterface(today)->state().selected);
-        QTRY_COMPARE(waitForItem(window, u"table"_s)->property("count").toInt(), 0); // no page for June 2
     }
 
     void keyboardOpensTheMenuAndAPage_data()
@@ -138,6 +98,81 @@ private Q_SLOTS:
         TestEnvironment environment;
         QCOMPARE(fatalStop([] { Navigator::shared().performSegue(u"ImportExportSegue"_s); }),
                  u"Fatal error: no screen for the segue \"ImportExportSegue\""_s);
+    }
+
+    void keepsOnePicture_data()
+    {
+        QTest::addColumn<QSize>("first");
+        QTest::addColumn<QSize>("second");
+        QTest::addColumn<bool>("folderBlocked");
+        QTest::addColumn<bool>("kept");
+
+        QTest::newRow("the same size again reads the kept picture") << QSize(240, 360) << QSize(240, 360) << false << true;
+        QTest::newRow("a new size replaces the old picture") << QSize(240, 360) << QSize(300, 450) << false << true;
+        QTest::newRow("no size yet: the vector cover") << QSize() << QSize(0, 450) << false << false;
+        QTest::newRow("no folder for the cache: the vector cover") << QSize(240, 360) << QSize(240, 360) << true << false;
+    }
+
+    void keepsOnePicture()
+    {
+        QFETCH(QSize, first);
+        QFETCH(QSize, second);
+        QFETCH(bool, folderBlocked);
+        QFETCH(bool, kept);
+        TestEnvironment environment;
+        Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true); // no seeding here
+        const QDir data(environment.dataDirectory());
+        if (folderBlocked)
+            QVERIFY(writeFile(data.filePath(u"cache"_s), {})); // a file where the folder would go
+
+        const QDir cache(data.filePath(u"cache"_s));
+        const auto file = [&cache](const QUrl &url) { return cache.filePath(url.fileName()); };
+        const QUrl drawn = launch(first);
+        const QDateTime drawnAt = QFileInfo(file(drawn)).lastModified();
+        const QUrl url = launch(second);
+        const QStringList pictures = cache.entryList({u"Cover-*"_s}, QDir::Files);
+        if (!kept) {
+            QCOMPARE(url, CoverViewController().img());
+            QVERIFY(pictures.isEmpty());
+            return;
+        }
+        QCOMPARE(pictures, QStringList{url.fileName()});
+        const QImage picture = CoverCache::read(file(url));
+        QCOMPARE(picture.size(), second);
+        // Drawn, not blank: the night sky at the top is darker than the dawn below it.
+        QVERIFY(qGray(picture.pixel(second.width() / 2, 2)) < qGray(picture.pixel(second.width() / 2, second.height() / 2)));
+        if (first == second) {
+            QCOMPARE(url, drawn);
+            QCOMPARE(QFileInfo(file(url)).lastModified(), drawnAt); // read back, not drawn again
+        }
+    }
+
+    void damagedPictureIsDrawnAgain_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const qint32 wrongSize[2] = {240, 361};
+        QTest::newRow("torn") << QByteArray("LWC1\xf0\x00");
+        QTest::newRow("another format") << QByteArray("P6\n240 360\n255\n") + QByteArray(240 * 360 * 3, '\x7f');
+        QTest::newRow("pixels short of the size it names")
+            << QByteArray("LWC1") + QByteArray(reinterpret_cast<const char *>(wrongSize), sizeof wrongSize) + QByteArray(240 * 360 * 4, '\0');
+    }
+
+    void damagedPictureIsDrawnAgain()
+    {
+        QFETCH(QByteArray, content);
+        TestEnvironment environment;
+        Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
+        const QSize size(240, 360);
+        const QUrl url = launch(size);
+        const QString file = QDir(environment.dataDirectory()).filePath(u"cache/"_s + url.fileName());
+        QVERIFY(writeFile(file, content));
+        QVERIFY(CoverCache::read(file).isNull());
+
+        CoverCache::ImageProvider provider;
+        QSize served;
+        QCOMPARE(provider.requestImage(url.fileName(), &served, size).size(), size);
+        QCOMPARE(served, size);
+        QCOMPARE(CoverCache::read(file).size(), size); // kept again for the next launch
     }
 };
 

@@ -47,23 +47,12 @@ void insertNotes(const QStringList &rows)
                       full);
 }
 
-// The store's writing in a comparable form, read through a fresh connection.
+// The store's writing as after a restart: notes "subject|text", then pages
+// "dt|ampm|favorite|text", then articles "name|text".
 QStringList storedWriting()
 {
-    const auto container = loadedContainer();
-    ManagedObjectContext &context = container->viewContext();
-    QStringList rows;
-    for (const Notes *note : context.fetch<Notes>(Notes::fetchRequest()))
-        rows.append(QStringLiteral("note %1: %2").arg(note->subject().value_or(QStringLiteral("-")), note->notes().value_or(QStringLiteral("-"))));
-    for (const PoemPrayer *page : context.fetch<PoemPrayer>(PoemPrayer::fetchRequest())) {
-        rows.append(QStringLiteral("page %1 %2%3: %4")
-                        .arg(page->dt().value_or(QString()), page->ampm().value_or(QString()),
-                             page->favorite() == QStringLiteral("T") ? QStringLiteral(" ♥") : QString(),
-                             page->poemprayer().value_or(QStringLiteral("-"))));
-    }
-    for (const About *article : context.fetch<About>(About::fetchRequest()))
-        rows.append(QStringLiteral("article %1: %2").arg(article->name().value_or(QStringLiteral("-")), article->aboutText().value_or(QStringLiteral("-"))));
-    return rows;
+    return storedRows<Notes>({u"subject"_s, u"notes"_s})
+        + storedRows<PoemPrayer>({u"dt"_s, u"ampm"_s, u"favorite"_s, u"poemprayer"_s}) + storedAbouts();
 }
 
 void setPage(int month, int day, const QString &ampm, const std::optional<QString> &favorite,
@@ -174,21 +163,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("summary");
         QTest::addColumn<QStringList>("writing");
 
-        const QStringList notes{u"note Snow day: Walked to the lake"_s, u"note Evening: Quiet"_s};
-        const QString firstPage = u"page January 1 AM ♥: Frost on the gate\nand my own line"_s;
-        const QString secondPage = u"page January 2 AM ♥: Bread and a blue cup"_s;
-        const QString prayer = u"article My Prayer: Hold this house."_s;
+        const QStringList notes{u"Snow day|Walked to the lake"_s, u"Evening|Quiet"_s};
+        const QString firstPage = u"January 1|AM|T|Frost on the gate\nand my own line"_s;
+        const QString secondPage = u"January 2|AM|T|Bread and a blue cup"_s;
+        const QString prayer = u"My Prayer|Hold this house."_s;
         const QString all = u"2 notes, 2 favourites, 2 pages, 2 articles will be restored"_s;
-        const QStringList restored = notes + QStringList{firstPage, u"page January 1 PM: The lamp is low\nand the door is shut"_s,
-                                                         secondPage, u"article Welcome: Read a page a day.\nKeep it close."_s, prayer};
+        const QStringList restored = notes + QStringList{firstPage, u"January 1|PM|F|The lamp is low\nand the door is shut"_s,
+                                                         secondPage, u"Welcome|Read a page a day.\nKeep it close."_s, prayer};
 
         QTest::newRow("onto the book as shipped") << true << QStringList() << false << all << restored;
         QTest::newRow("a note already here, a page and an article changed here")
             << true << QStringList{u"Snow day|Walked to the lake|2026-01-01T08:00:00Z"_s} << true
             << u"1 note, 1 favourite, 1 page, 1 article will be restored\n\nAlready here: 2 notes.\n\n"
                "Changed here, so kept as they are: 1 page, 1 article."_s
-            << notes + QStringList{firstPage, u"page January 1 PM: My own lamp"_s, secondPage,
-                                   u"article Welcome: My welcome"_s, prayer};
+            << notes + QStringList{firstPage, u"January 1|PM|F|My own lamp"_s, secondPage, u"Welcome|My welcome"_s, prayer};
         QTest::newRow("the about list never opened") << false << QStringList() << false << all << restored;
     }
 

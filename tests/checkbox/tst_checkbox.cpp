@@ -1,12 +1,10 @@
 #include "M13Checkbox.h"
 #include "M13CheckboxController.h"
 #include "M13CheckboxPathGenerator.h"
-#include "CheckboxPixels.h"
 #include "TestSupport.h"
 
 #include <QAccessible>
 #include <QPainter>
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QtTest>
@@ -16,37 +14,35 @@
 using namespace Qt::StringLiterals;
 using CheckState = M13Checkbox::CheckState;
 using BoxType = M13Checkbox::BoxType;
-using Style = M13Checkbox::AnimationStyle;
+using MarkType = M13Checkbox::MarkType;
 
 namespace {
 
-// A window with one 40 × 40 check box at (60, 60), made by QML as the pages make it.
+// A window with one 40 × 40 check box at (60, 60), made by QML as the pages make it, on screen.
 struct Scene
 {
     QQmlEngine engine;
     std::unique_ptr<QQuickWindow> window;
     M13Checkbox *box = nullptr;
-    QString errors;
 
     explicit Scene(const QString &boxProperties = {})
-    {
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQmlComponent component(&engine);
-        component.setData(uR"(
-            import QtQuick
-            import Larkwells
-            Window {
+        : window(qmlWindow(engine, uR"(Window {
                 width: 200; height: 200; visible: true
                 M13Checkbox { x: 60; y: 60; width: 40; height: 40; Accessible.name: "Favorite"; %1 }
-            })"_s.arg(boxProperties).toUtf8(), QUrl(u"qrc:/tst_checkbox.qml"_s));
-        window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        errors = component.errorString();
+            })"_s.arg(boxProperties)))
+    {
         if (window)
             box = window->findChild<M13Checkbox *>();
     }
-    bool shown() const { return box && QTest::qWaitForWindowExposed(window.get()); }
     QPoint at(QPointF boxPoint) const { return box->mapToScene(boxPoint).toPoint(); }
 };
+
+// Pixels clearly of the accent blue (the default tint and the focus ring), as opposed to the grey
+// outline or white.
+int accentPixels(const QImage &image)
+{
+    return countPixels(image, [](QRgb p) { return qBlue(p) - qRed(p) > 60; });
+}
 
 QImage render(const M13CheckboxController &controller)
 {
@@ -70,7 +66,6 @@ class TestCheckbox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { importLarkwellsModule(); }
     void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
 
     void boxGeometry_data()
@@ -110,74 +105,36 @@ private Q_SLOTS:
         QVERIFY2(std::abs(drawn.length() - perimeter) < 0.3, qPrintable(QString::number(drawn.length())));
     }
 
-    void animationText_data()
-    {
-        QTest::addColumn<QString>("controller");
-        QTest::addColumn<Style>("style");
-        for (const char *kind : {"Bounce", "Expand", "Flat", "Fade", "Dot"}) {
-            const QString controller = u"M13Checkbox%1Controller"_s.arg(QLatin1StringView(kind));
-            QTest::addRow("%sStroke", kind) << controller << Style::Stroke;
-            QTest::addRow("%sFill", kind) << controller << Style::Fill;
-        }
-        QTest::newRow("Stroke") << u"M13CheckboxStrokeController"_s << Style::Stroke;
-        QTest::newRow("Fill") << u"M13CheckboxFillController"_s << Style::Fill;
-        QTest::newRow("Spiral") << u"M13CheckboxSpiralController"_s << Style::Stroke;
-    }
-
+    // Every animation's text reads back as itself, and swapping it in keeps what the box showed.
     void animationText()
     {
-        QFETCH(QString, controller);
-        QFETCH(Style, style);
-        const QString text = QString::fromLatin1(QTest::currentDataTag());
-        const auto parsed = M13Checkbox::Animation::fromText(text);
-        QVERIFY(parsed);
-        QCOMPARE(parsed->text(), text);
-        QCOMPARE(M13Checkbox::Animation::all().count(*parsed), 1);
-
-        // Changing the animation swaps the controller and keeps what the box showed.
         M13Checkbox box;
         box.setSize({40, 40});
         box.setCheckState(CheckState::Mixed);
         box.setTintColor(Qt::darkGreen);
-        box.setMarkType(M13Checkbox::MarkType::Radio);
+        box.setMarkType(MarkType::Radio);
         box.setBoxType(BoxType::Square);
         box.setEnableMorphing(false);
-        box.setIBStateChangeAnimation(text);
-        QCOMPARE(QString::fromLatin1(box.controller()->metaObject()->className()), controller);
-        if (auto *styled = qobject_cast<M13CheckboxStyledController *>(box.controller()))
-            QCOMPARE(styled->style(), style);
-        QCOMPARE(box.checkState(), CheckState::Mixed);
-        QCOMPARE(box.tintColor(), QColor(Qt::darkGreen));
-        QCOMPARE(box.markType(), M13Checkbox::MarkType::Radio);
-        QCOMPARE(box.boxType(), BoxType::Square);
-        QCOMPARE(box.controller()->pathGenerator().size(), 40.0);
-        QVERIFY(!box.enableMorphing());
-        QVERIFY(box.controller()->markLayer().isVisible());
-    }
-
-    void designTimeText_data()
-    {
-        QTest::addColumn<QString>("assignment");
-        QTest::addColumn<QString>("property");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("state") << u"_IBCheckState: \"Mixed\""_s << u"_IBCheckState"_s << u"Mixed"_s;
-        QTest::newRow("state set from QML") << u"Component.onCompleted: setCheckState(M13Checkbox.Mixed, true)"_s
-                                            << u"_IBCheckState"_s << u"Mixed"_s;
-        QTest::newRow("a text outside the list") << u"_IBStateChangeAnimation: \"Bounce\""_s << u"_IBStateChangeAnimation"_s
-                                                 << u"Stroke"_s;
-    }
-
-    void designTimeText()
-    {
-        QFETCH(QString, assignment);
-        QFETCH(QString, property);
-        QFETCH(QString, expected);
-
-        Scene scene(assignment);
-        QVERIFY2(scene.box, qPrintable(scene.errors));
-        const QString text = scene.box->property(property.toLatin1()).toString();
-        QCOMPARE(text, expected);
+        const QList<M13Checkbox::Animation> all = M13Checkbox::Animation::all();
+        QCOMPARE(QSet(all.begin(), all.end()).size(), 13); // five kinds in two styles; stroke, fill, spiral
+        for (const M13Checkbox::Animation &animation : all) {
+            const QString text = animation.text();
+            const auto parsed = M13Checkbox::Animation::fromText(text);
+            QVERIFY2(parsed && *parsed == animation, qPrintable(text));
+            box.setIBStateChangeAnimation(text);
+            // The controller named by the kind, a styled one drawing in the text's style.
+            const QString kind = QString(text).remove(QRegularExpression(u"(?<=.)(Stroke|Fill)$"_s));
+            QCOMPARE(QString::fromLatin1(box.controller()->metaObject()->className()), u"M13Checkbox%1Controller"_s.arg(kind));
+            if (auto *styled = qobject_cast<M13CheckboxStyledController *>(box.controller()))
+                QCOMPARE(styled->style(), text.endsWith(u"Fill"_s) ? M13Checkbox::AnimationStyle::Fill : M13Checkbox::AnimationStyle::Stroke);
+            QCOMPARE(box.checkState(), CheckState::Mixed);
+            QCOMPARE(box.tintColor(), QColor(Qt::darkGreen));
+            QCOMPARE(box.markType(), MarkType::Radio);
+            QCOMPARE(box.boxType(), BoxType::Square);
+            QCOMPARE(box.controller()->pathGenerator().size(), 40.0);
+            QVERIFY(!box.enableMorphing());
+            QVERIFY(box.controller()->markLayer().isVisible());
+        }
     }
 
     void pointer_data()
@@ -211,7 +168,7 @@ private Q_SLOTS:
         QFETCH(int, valueChanges);
 
         Scene scene;
-        QVERIFY2(scene.shown(), qPrintable(scene.errors));
+        QVERIFY(scene.box);
         scene.box->setCheckState(initial);
         QSignalSpy values(scene.box, &M13Checkbox::valueChanged);
         // One touch screen for the whole run: Qt keeps every device registered until exit.
@@ -232,8 +189,10 @@ private Q_SLOTS:
                 QTest::mouseRelease(window, Qt::LeftButton, {}, p);
             }
         };
+        const QImage released = window->grabWindow();
         send(QEventPoint::Pressed, press);
         QVERIFY(scene.box->isSelected());
+        QVERIFY(window->grabWindow() != released); // a halo and a slight give under the finger
         for (const QPointF &p : {press, QPointF(90, 90), release})
             send(QEventPoint::Updated, p);
         QVERIFY(scene.box->isSelected());
@@ -241,30 +200,40 @@ private Q_SLOTS:
         QVERIFY(!scene.box->isSelected());
         QCOMPARE(scene.box->checkState(), expected);
         QCOMPARE(values.size(), valueChanges);
+        if (valueChanges == 0)
+            QCOMPARE(window->grabWindow(), released); // the pressed look undone
     }
 
     void setFromCode_data()
     {
         QTest::addColumn<QString>("animation");
+        QTest::addColumn<MarkType>("mark");
+        QTest::addColumn<BoxType>("boxType");
         QTest::addColumn<bool>("morphing");
         QTest::addColumn<bool>("animated");
         QTest::addColumn<CheckState>("from");
         QTest::addColumn<CheckState>("to");
+        int n = 0; // each mark on each box, across the animations
         for (const auto &animation : M13Checkbox::Animation::all()) {
-            const QByteArray text = animation.text().toUtf8();
-            QTest::addRow("%s, on", text.constData()) << animation.text() << true << true << CheckState::Unchecked << CheckState::Checked;
-            QTest::addRow("%s, to mixed", text.constData()) << animation.text() << true << true << CheckState::Checked << CheckState::Mixed;
-            QTest::addRow("%s, to mixed, not morphing", text.constData()) << animation.text() << false << true << CheckState::Checked << CheckState::Mixed;
-            QTest::addRow("%s, off, not morphing", text.constData()) << animation.text() << false << true << CheckState::Mixed << CheckState::Unchecked;
+            const auto mark = MarkType(n % 4);
+            const auto box = BoxType(n++ / 4 % 2);
+            const QByteArray text = animation.text().toUtf8() + ' ' + QMetaEnum::fromType<MarkType>().valueToKey(int(mark))
+                + ' ' + QMetaEnum::fromType<BoxType>().valueToKey(int(box));
+            QTest::addRow("%s, on", text.constData()) << animation.text() << mark << box << true << true << CheckState::Unchecked << CheckState::Checked;
+            QTest::addRow("%s, to mixed", text.constData()) << animation.text() << mark << box << true << true << CheckState::Checked << CheckState::Mixed;
+            QTest::addRow("%s, to mixed, not morphing", text.constData()) << animation.text() << mark << box << false << true << CheckState::Checked << CheckState::Mixed;
+            QTest::addRow("%s, off, not morphing", text.constData()) << animation.text() << mark << box << false << true << CheckState::Mixed << CheckState::Unchecked;
         }
-        QTest::newRow("at once") << u"Stroke"_s << true << false << CheckState::Unchecked << CheckState::Mixed;
-        QTest::newRow("same state, animated") << u"Stroke"_s << true << true << CheckState::Checked << CheckState::Checked;
-        QTest::newRow("same state, not morphing") << u"Spiral"_s << false << true << CheckState::Mixed << CheckState::Mixed;
+        QTest::newRow("at once") << u"Stroke"_s << MarkType::Checkmark << BoxType::Circle << true << false << CheckState::Unchecked << CheckState::Mixed;
+        QTest::newRow("same state, animated") << u"Stroke"_s << MarkType::Checkmark << BoxType::Circle << true << true << CheckState::Checked << CheckState::Checked;
+        QTest::newRow("same state, not morphing") << u"Spiral"_s << MarkType::Checkmark << BoxType::Circle << false << true << CheckState::Mixed << CheckState::Mixed;
     }
 
     void setFromCode()
     {
         QFETCH(QString, animation);
+        QFETCH(MarkType, mark);
+        QFETCH(BoxType, boxType);
         QFETCH(bool, morphing);
         QFETCH(bool, animated);
         QFETCH(CheckState, from);
@@ -272,6 +241,8 @@ private Q_SLOTS:
 
         M13Checkbox box;
         box.setSize({40, 40});
+        box.setMarkType(mark);
+        box.setBoxType(boxType);
         box.setIBStateChangeAnimation(animation);
         box.setEnableMorphing(morphing);
         box.setAnimationDuration(0.05);
@@ -288,6 +259,7 @@ private Q_SLOTS:
 
         // Wherever the animation went, it ends looking exactly like the state set at once.
         const QImage animatedEnd = render(*box.controller());
+        QCOMPARE(accentPixels(animatedEnd) > 20, to != CheckState::Unchecked); // tinted only when shown
         box.controller()->resetLayers();
         QCOMPARE(animatedEnd, render(*box.controller()));
         QCOMPARE(values.size(), 0);
@@ -355,7 +327,7 @@ private Q_SLOTS:
         QFETCH(CheckState, expected);
 
         Scene scene(boxProperties);
-        QVERIFY2(scene.shown(), qPrintable(scene.errors));
+        QVERIFY(scene.box);
         scene.box->setCheckState(initial);
         QAccessibleInterface *face = QAccessible::queryAccessibleInterface(scene.box);
         QVERIFY(face);
@@ -397,7 +369,7 @@ private Q_SLOTS:
         QFETCH(int, valueChanges);
 
         Scene scene;
-        QVERIFY2(scene.box, qPrintable(scene.errors));
+        QVERIFY(scene.box);
         QQuickWindow *window = scene.window.get();
         window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(window));

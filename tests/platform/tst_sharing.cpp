@@ -1,10 +1,10 @@
 #include "Alerts.h"
+#include "Navigator.h"
 #include "Sharing.h"
 #include "TestSupport.h"
 
-#include <QDesktopServices>
-#include <QQmlComponent>
-#include <QQmlEngine>
+#include <QAccessible>
+#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -12,23 +12,19 @@
 
 using namespace Qt::StringLiterals;
 
-// Takes mailto: links in place of a desktop mail client.
-class MailClient : public QObject
-{
-    Q_OBJECT
-public:
-    QList<QUrl> opened;
-public Q_SLOTS:
-    void open(const QUrl &url) { opened << url; }
-};
+namespace {
+// An alert's own window, `%1` pixels wide.
+const QString alertWindowBody = u"ApplicationWindow { width: %1; height: 640; visible: true\n"
+                                "AlertDialog { Component.onCompleted: open() } }"_s;
+}
 
-// The share sheet in a window of its own, as the application shows it.
+// The share sheet in a window of its own, as the application shows it; and the file chooser as a
+// reader walks it: into a folder and back up, and a file opened, by touch and by a screen reader.
 class TestSharing : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { importLarkwellsModule(); }
     void init() { QTest::failOnWarning(QRegularExpression(u".*qml.*"_s)); }
 
     void cleanup() { Sharing::shared().cancel(); dismissAlerts(); }
@@ -121,12 +117,10 @@ private Q_SLOTS:
         QVERIFY(!completed); // nothing done yet: the sheet stays for another choice
         QVERIFY(Sharing::shared().showing());
 
-        MailClient client;
-        QDesktopServices::setUrlHandler(u"mailto"_s, &client, "open");
+        OpenedUrls client({u"mailto"_s});
         Sharing::shared().email();
-        QDesktopServices::unsetUrlHandler(u"mailto"_s);
-        QCOMPARE(client.opened.size(), 1);
-        QCOMPARE(client.opened.first().query().contains(u"body=text"_s), true);
+        QCOMPARE(client.urls.size(), 1);
+        QVERIFY(client.urls.first().query().contains(u"body=text"_s));
         QCOMPARE(completed, std::optional(true));
     }
 
@@ -148,7 +142,7 @@ private Q_SLOTS:
                                   u"It's recommended that you go to the User Defaults Menu and turn on wallpapers."_s,
                                   {u"Ok"_s}, {}});
         QQmlEngine engine;
-        const auto window = alertWindow(engine, width);
+        const auto window = qmlWindow(engine, alertWindowBody.arg(width));
         QVERIFY(window);
         auto *dialog = window->findChild<QObject *>(u"alertDialog"_s);
         QTRY_VERIFY(dialog->property("opened").toBool());
@@ -175,7 +169,7 @@ private Q_SLOTS:
         int chosen = -1;
         Alerts::shared().present({u"Title"_s, u"Message"_s, buttons, [&](int button) { chosen = button; }});
         QQmlEngine engine;
-        const auto window = alertWindow(engine, 360);
+        const auto window = qmlWindow(engine, alertWindowBody.arg(360));
         QVERIFY(window);
         QTRY_VERIFY(window->findChild<QObject *>(u"alertDialog"_s)->property("opened").toBool());
         QTest::keyClick(window.get(), Qt::Key_Return);
@@ -184,39 +178,99 @@ private Q_SLOTS:
         QCOMPARE(Alerts::shared().showing(), !answered);
     }
 
-private:
-    std::unique_ptr<QQuickWindow> alertWindow(QQmlEngine &engine, int width)
+    void opensOnAFolderThatIsThere_data()
     {
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQmlComponent component(&engine);
-        component.setData(QStringLiteral("import QtQuick\nimport QtQuick.Controls\nimport Larkwells\n"
-                                         "ApplicationWindow { width: %1; height: 640; visible: true\n"
-                                         "AlertDialog { Component.onCompleted: open() } }").arg(width).toUtf8(),
-                          QUrl(u"qrc:/test/AlertWindow.qml"_s));
-        std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
-        if (!window)
-            qWarning() << component.errorString();
-        return window && QTest::qWaitForWindowExposed(window.get()) ? std::move(window) : nullptr;
+        QTest::addColumn<bool>("documents");
+        QTest::newRow("with Documents") << true;
+        QTest::newRow("without Documents") << false;
     }
 
+    void opensOnAFolderThatIsThere()
+    {
+        QFETCH(bool, documents);
+        QTemporaryDir home;
+        const QByteArray oldHome = qgetenv("HOME");
+        qputenv("HOME", home.path().toUtf8());
+        if (documents)
+            QVERIFY(QDir(home.path()).mkdir(u"Documents"_s));
+        const QString folder = Sharing::shared().documentsFolder().toLocalFile();
+        qputenv("HOME", oldHome);
+        QCOMPARE(folder, documents ? home.filePath(u"Documents"_s) : home.path());
+    }
+
+    // On a tablet the chooser is a card: a tap beside it closes it and reaches nothing behind.
+    void aTapBesideTheCardStaysOnTheScreen()
+    {
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        dismissAlerts();
+        window->resize(1024, 768);
+        Navigator::shared().performSegue(u"AboutImportSegue"_s);
+        QTemporaryDir empty; // no row to take the keys
+        QObject *dialog = fileDialogShowing(window, empty.path());
+        QVERIFY(dialog);
+        // The keys stay in the chooser, once the screen under it has come in too.
+        QTest::qWait(600);
+        const QQuickItem *card = qvariant_cast<QQuickItem *>(dialog->property("contentItem"))->parentItem();
+        for (int tab = 0; tab < 8; ++tab) {
+            QTest::keyClick(window, Qt::Key_Tab);
+            QVERIFY2(window->activeFocusItem() && card->isAncestorOf(window->activeFocusItem()),
+                     qPrintable(window->activeFocusItem() ? window->activeFocusItem()->objectName() : u"none"_s));
+        }
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QTest::qWait(100);
+        QCOMPARE(topPage(window), u"AboutImportView"_s);
+    }
+
+    void walkFoldersAndOpenAFile()
+    {
+        TestEnvironment environment;
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"inner"_s));
+        const QString picked = folder.filePath(u"inner/About.txt"_s);
+        QVERIFY(writeFile(picked, "[ABOUT]\nPicked^By hand\n"));
+
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        dismissAlerts();
+        Navigator::shared().performSegue(u"AboutImportSegue"_s);
+        QObject *dialog = fileDialogShowing(window, folder.path());
+        QVERIFY(dialog);
+
+        // On a phone one tap opens a folder.
+        click(window, waitForItem(window, u"file-inner"_s));
+        QTRY_COMPARE(dialog->property("currentFolder").toUrl(), QUrl::fromLocalFile(folder.filePath(u"inner"_s)));
+        QVERIFY(waitForItem(window, u"file-About.txt"_s));
+
+        QQuickItem *up = waitForItem(window, u"upButton"_s);
+        QCOMPARE(QAccessible::queryAccessibleInterface(up)->text(QAccessible::Name), u"Up"_s);
+        click(window, up);
+        QTRY_COMPARE(dialog->property("currentFolder").toUrl(), QUrl::fromLocalFile(folder.path()));
+
+        // A screen reader's press on a file opens it at once.
+        click(window, waitForItem(window, u"file-inner"_s));
+        QAccessibleInterface *row = QAccessible::queryAccessibleInterface(waitForItem(window, u"file-About.txt"_s));
+        QCOMPARE(row->text(QAccessible::Name), u"About.txt"_s);
+        row->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QTRY_COMPARE(findVisibleItem(window, u"ImportTextView"_s)->property("text").toString(),
+                     u"[ABOUT]\nPicked^By hand\n"_s);
+    }
+
+private:
     std::unique_ptr<QQuickWindow> showSheet(QQmlEngine &engine)
     {
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQmlComponent component(&engine);
-        component.setData("import QtQuick.Controls\nimport Larkwells\n"
-                          "ApplicationWindow { width: 360; height: 640; visible: true\n"
-                          "ShareSheet { objectName: \"sheet\" }\nAlertDialog {} }",
-                          QUrl(u"qrc:/test/SheetWindow.qml"_s));
-        std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
+        auto window = qmlWindow(engine, u"ApplicationWindow { width: 360; height: 640; visible: true\n"
+                                        "ShareSheet { objectName: \"sheet\" }\nAlertDialog {} }"_s);
         if (!window)
-            qWarning() << component.errorString();
-        if (!window || !QTest::qWaitForWindowExposed(window.get()))
             return nullptr;
         Sharing::shared().present({u"A line to share"_s, {}, {}, {}});
         auto *sheet = window->findChild<QObject *>(u"sheet"_s);
-        if (!QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }))
-            return nullptr;
-        return window;
+        return QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }) ? std::move(window) : nullptr;
     }
 
     QQuickItem *option(QQuickWindow *window, const QString &name)

@@ -42,9 +42,9 @@ QStringList storedRows(const QStringList &columns)
 }
 
 // Pages: "dt|ampm|month|day|pagenum|favorite|text".
-inline void insertPages(const QStringList &rows)
+inline QList<PoemPrayer *> insertPages(const QStringList &rows)
 {
-    insertRows<PoemPrayer>({QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
+    return insertRows<PoemPrayer>({QStringLiteral("dt"), QStringLiteral("ampm"), QStringLiteral("month"), QStringLiteral("day"),
                             QStringLiteral("pagenum"), QStringLiteral("favorite"), QStringLiteral("poemprayer")},
                            rows);
 }

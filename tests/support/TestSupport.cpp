@@ -14,11 +14,13 @@
 #include "SpeechDouble.h"
 #include "UserDefaults.h"
 
+#include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QQmlExtensionPlugin>
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSqlDatabase>
@@ -228,6 +230,35 @@ QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuBu
         click(window, item);
     }
     return QTest::qWaitFor([&] { return topPage(window) == page; }) ? window : nullptr;
+}
+
+std::unique_ptr<QQuickWindow> qmlWindow(QQmlEngine &engine, const QString &body)
+{
+    importLarkwellsModule();
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml")); // not a default import path before Qt 6.5
+    QQmlComponent component(&engine);
+    component.setData((QStringLiteral("import QtQuick\nimport QtQuick.Controls\nimport Larkwells\n") + body).toUtf8(),
+                      QUrl(QStringLiteral("qrc:/test/Window.qml")));
+    QObject *root = component.create();
+    std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(root));
+    if (!window) {
+        delete root;
+        qWarning().noquote() << "no window:" << component.errorString();
+        return nullptr;
+    }
+    return QTest::qWaitForWindowExposed(window.get()) ? std::move(window) : nullptr;
+}
+
+OpenedUrls::OpenedUrls(const QStringList &schemes) : m_schemes(schemes)
+{
+    for (const QString &scheme : schemes)
+        QDesktopServices::setUrlHandler(scheme, this, "open");
+}
+
+OpenedUrls::~OpenedUrls()
+{
+    for (const QString &scheme : std::as_const(m_schemes))
+        QDesktopServices::unsetUrlHandler(scheme);
 }
 
 QObject *fileDialogShowing(QQuickWindow *window, const QString &folder)

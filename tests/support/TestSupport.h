@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QColor>
+#include <QObject>
 #include <QStringList>
+#include <QUrl>
 #include <QVariantMap>
 #include <QTemporaryDir>
 
 #include <functional>
+#include <memory>
 
 // A throw-away data folder for one test: its own preferences and store, log lines collected,
 // fatal stops thrown as FatalErrorException. Optionally a bundle folder of the test's own.
@@ -79,6 +82,26 @@ QQuickWindow *loadLaunchedWindow(QQmlApplicationEngine &engine);
 // The application's window past its first launch, with `page` opened from the cover's menu
 // button `menuButton`; null when any step fails.
 QQuickWindow *openFromCover(QQmlApplicationEngine &engine, const QString &menuButton, const QString &page);
+
+class QQmlEngine;
+// A window made from `body`, its root object written after the QtQuick, QtQuick.Controls and
+// Larkwells imports, once it is on screen; null, with the QML errors reported, when it fails.
+std::unique_ptr<QQuickWindow> qmlWindow(QQmlEngine &engine, const QString &body);
+
+// Takes the URLs of `schemes` that the app asks the desktop to open, in place of the desktop's
+// own handlers, for as long as it lives.
+class OpenedUrls : public QObject
+{
+    Q_OBJECT
+public:
+    explicit OpenedUrls(const QStringList &schemes);
+    ~OpenedUrls() override;
+    QList<QUrl> urls;
+public Q_SLOTS:
+    void open(const QUrl &url) { urls.append(url); }
+private:
+    QStringList m_schemes;
+};
 
 // The file dialog once it is on screen, showing `folder`; null when none shows.
 QObject *fileDialogShowing(QQuickWindow *window, const QString &folder);

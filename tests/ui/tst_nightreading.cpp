@@ -1,11 +1,14 @@
 #include "AboutEditViewController.h"
 #include "Art.h"
 #include "Bundle.h"
+#include "DefaultsViewController.h"
 #include "EditSpecialDaysViewController.h"
 #include "Navigator.h"
 #include "PreferenceKeys.h"
+#include "ReadAloud.h"
 #include "SearchViewController.h"
 #include "Selection.h"
+#include "SpeechDouble.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
 #include "ViewController.h"
@@ -15,10 +18,11 @@
 #include <QImage>
 #include <QPalette>
 #include <QQmlApplicationEngine>
-#include <QQmlComponent>
 #include <QQuickItem>
+#include <QQuickTextDocument>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -58,7 +62,8 @@ std::unique_ptr<ReaderScreen> load(const QString &reader)
 }
 
 // Text that reads on every paper, and the night look: when it shows, that it reads at 7:1 or
-// better, and that turning it off gives back the day look exactly.
+// better, and that turning it off gives back the day look exactly. Read Aloud in every reader
+// against the voice double, the rate set on User Defaults, and the voice chosen for the locale.
 class TestNightReading : public QObject
 {
     Q_OBJECT
@@ -123,17 +128,12 @@ private Q_SLOTS:
 
     void emptyCheckCircleOnTheCell()
     {
-        importLarkwellsModule();
         QQmlEngine engine;
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQmlComponent component(&engine);
-        component.setData("import QtQuick\nimport Larkwells\nItem { property color cell: Theme.cellColor\n"
-                          "FavoriteBox { objectName: \"box\" } }", QUrl(u"qrc:/test/Box.qml"_s));
-        std::unique_ptr<QObject> root(component.create());
-        QVERIFY2(root, qPrintable(component.errorString()));
-        auto *box = findItem(qobject_cast<QQuickItem *>(root.get()), u"FavoriteCheckBox"_s);
+        const auto window = qmlWindow(engine, u"Window { property color cell: Theme.cellColor; visible: true\nFavoriteBox {} }"_s);
+        QVERIFY(window);
+        auto *box = findItem(window->contentItem(), u"FavoriteCheckBox"_s);
         QVERIFY(box);
-        const double ratio = contrast(box->property("secondaryTintColor").value<QColor>(), root->property("cell").value<QColor>());
+        const double ratio = contrast(box->property("secondaryTintColor").value<QColor>(), window->property("cell").value<QColor>());
         qInfo("empty circle: %.2f:1", ratio);
         QVERIFY(ratio >= 3);
     }
@@ -225,6 +225,132 @@ private Q_SLOTS:
 
         Preferences::write(PreferenceKeys::NightReading, false);
         QCOMPARE(look(), day);
+    }
+
+    void playPauseStopLeave_data()
+    {
+        QTest::addColumn<QString>("segue");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("page reader") << u"ViewPoemSegue"_s << u"View"_s;
+        QTest::newRow("search-result reader") << u"SearchPoemSegue"_s << u"SearchView"_s;
+        QTest::newRow("special-day reader") << u"SpecialDayReaderSegue"_s << u"EditSpecialDaysView"_s;
+        QTest::newRow("about article") << u"AboutEditSegue"_s << u"AboutEditView"_s;
+    }
+
+    void playPauseStopLeave()
+    {
+        QFETCH(QString, page);
+        TestEnvironment environment;
+        SpeechDouble &voice = SpeechDouble::shared();
+        UserDefaults::standard().set(u"ReadAloudRate"_s, -0.4);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openReader(engine);
+        QVERIFY(window);
+        QQuickItem *button = waitForItem(window, u"ReadAloudButton"_s);
+        QVERIFY(button);
+        // What the reader offers: the button's label, and whether Stop shows.
+        const auto offered = [&] {
+            return button->property("label").toString()
+                + (findVisibleItem(window, u"StopReadingButton"_s) ? u" + Stop"_s : u""_s);
+        };
+        QCOMPARE(offered(), u"Read Aloud"_s);
+
+        // The voice is chosen when reading starts, from the locale then in force.
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
+        click(window, button);
+        QLocale::setDefault(before);
+        auto *text = findVisibleItem(window, u"scroller"_s)->property("textView").value<QQuickItem *>();
+        QCOMPARE(voice.spokenText, text->property("textDocument").value<QQuickTextDocument *>()->textDocument()->toPlainText());
+        QVERIFY(voice.spokenText.contains(u"lark at dawn"_s));
+        QCOMPARE(voice.spokenLocale, QLocale(QLocale::German, QLocale::Austria));
+        QCOMPARE(voice.spokenRate, -0.4);
+        QTRY_COMPARE(offered(), u"Pause + Stop"_s);
+
+        click(window, button);
+        QCOMPARE(voice.state(), Speech::State::Paused);
+        QCOMPARE(offered(), u"Resume + Stop"_s);
+        voice.spokenText.clear();
+        click(window, button);
+        QCOMPARE(voice.state(), Speech::State::Speaking);
+        QVERIFY(voice.spokenText.isEmpty()); // resumed, not started again
+
+        click(window, waitForItem(window, u"StopReadingButton"_s));
+        QCOMPARE(voice.state(), Speech::State::Ready);
+        QTRY_COMPARE(offered(), u"Read Aloud"_s);
+
+        // Reaching the end brings the button back; leaving while reading stops the voice.
+        click(window, button);
+        voice.finish();
+        QCOMPARE(button->property("label").toString(), u"Read Aloud"_s);
+        click(window, button);
+        const int stops = voice.stops;
+        click(window, waitForItem(window, u"backButton"_s));
+        QTRY_VERIFY(topPage(window) != page);
+        QTRY_COMPARE(voice.stops, stops + 1);
+        QCOMPARE(voice.state(), Speech::State::Ready);
+    }
+    void hiddenWithoutEngine_data() { playPauseStopLeave_data(); }
+
+    void hiddenWithoutEngine()
+    {
+        TestEnvironment environment;
+        SpeechDouble::shared().hasEngine = false;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openReader(engine);
+        QVERIFY(window && waitForItem(window, u"scroller"_s));
+        QVERIFY(findItem(window->contentItem(), u"ReadAloudButton"_s));
+        QVERIFY(!findVisibleItem(window, u"ReadAloudButton"_s));
+    }
+
+    // The slider's rate, kept within the fastest, is stored and read by the next reading.
+    void rateStoredAndApplied()
+    {
+        TestEnvironment environment;
+        for (const auto &[moved, stored] : {std::pair{-0.5, -0.5}, {1.6, 1.0}}) {
+            DefaultsViewController defaults;
+            defaults.viewDidLoad();
+            defaults.ReadAloudRateSliderChanged(moved);
+            DefaultsViewController reopened;
+            reopened.viewDidLoad();
+            QCOMPARE(reopened.ReadAloudRate(), stored);
+            ReadAloud().play(u"The lark"_s);
+            QCOMPARE(SpeechDouble::shared().spokenRate, stored);
+        }
+    }
+
+    void voiceFollowsTheLocale()
+    {
+        const QList<QLocale> offered{QLocale(u"en_US"_s), QLocale(u"de_AT"_s), QLocale(u"de_DE"_s)};
+        QStringList chosen; // empty: the engine keeps its own voice
+        for (const QString &wanted : {u"de_DE"_s, u"de_CH"_s, u"fr_FR"_s}) {
+            const std::optional<QLocale> voice = voiceLocale(QLocale(wanted), offered);
+            chosen << (voice ? voice->name() : QString());
+        }
+        // The locale itself, else the first of its language, else none.
+        QCOMPARE(chosen, (QStringList{u"de_DE"_s, u"de_AT"_s, QString()}));
+    }
+
+private:
+    // The cover, then the reader of the row (every reader's selection carries "lark at dawn").
+    QQuickWindow *openReader(QQmlApplicationEngine &engine)
+    {
+        QFETCH(QString, segue);
+        QFETCH(QString, page);
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        if (!window)
+            return nullptr;
+        Selection &selection = Selection::shared();
+        selection.setSelectedAmpm(u"AM"_s);
+        selection.setSelectedDt(u"March 3"_s);
+        selection.setSelectedPoemPrayer(u"A lark at dawn"_s);
+        selection.setSelectedSearchText(u"dawn"_s);
+        selection.setSelectedSpecialAmpm(u"PM"_s);
+        selection.setSelectedSpecialPoem(u"A lark at dawn"_s);
+        selection.setSelectedAboutName(u"Good Morning Preface"_s);
+        selection.setSelectedAboutText(u"Why a lark at dawn"_s);
+        Navigator::shared().performSegue(segue);
+        return QTest::qWaitFor([&] { return topPage(window) == page; }) ? window : nullptr;
     }
 };
 
