@@ -58,6 +58,7 @@ Popup {
 
     modal: true
     dim: false
+    Component.onCompleted: ModalPopups.watch(picker)
     padding: 0
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
     background: Rectangle {

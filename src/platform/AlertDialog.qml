@@ -19,7 +19,10 @@ Dialog {
         else
             close()
     }
-    Component.onCompleted: deferred.restart()
+    Component.onCompleted: {
+        ModalPopups.watch(dialog)
+        deferred.restart()
+    }
     Connections {
         target: Alerts
         function onCurrentChanged() { deferred.restart() }

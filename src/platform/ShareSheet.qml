@@ -15,6 +15,7 @@ Drawer {
     interactive: Sharing.showing
     width: parent ? parent.width : 360
     visible: Sharing.showing
+    Component.onCompleted: ModalPopups.watch(sheet)
     onOpened: Sharing.sheetPresented()
     onClosed: if (Sharing.showing) Sharing.cancel()
     background: Rectangle { color: Theme.cellColor }

@@ -9,6 +9,7 @@ list(APPEND LARKWELLS_SOURCES
     platform/Fonts.h platform/Fonts.cpp
     platform/Log.h platform/Log.cpp
     platform/Mail.h platform/Mail.cpp
+    platform/ModalPopups.h platform/ModalPopups.cpp
     platform/Navigator.h platform/Navigator.cpp
     platform/ReviewRequest.h platform/ReviewRequest.cpp
     platform/Sharing.h platform/Sharing.cpp

@@ -12,6 +12,7 @@ Popup {
     property string heading
 
     modal: true
+    Component.onCompleted: ModalPopups.watch(picker)
     focus: true
     padding: 12
     anchors.centerIn: Overlay.overlay

@@ -27,6 +27,7 @@ DialogsImpl.FileDialogImpl {
 
     // The screen behind is shaded and takes no taps while the chooser is open.
     modal: true
+    Component.onCompleted: ModalPopups.watch(control)
     standardButtons: T.Dialog.Open | T.Dialog.Cancel
     // Made before it has a window to take the app's colours from.
     Material.accent: Theme.tint
