@@ -66,37 +66,49 @@ Popup {
         Rectangle { width: parent.width; height: 1; color: Theme.border }
     }
 
-    component Wheel: Tumbler {
+    // A wheel as a screen reader finds it: a spin box that says what it shows. The face is the
+    // scope around the Tumbler, which, a Control, would not take the spin box role (Qt 6.4).
+    component Wheel: FocusScope {
         id: wheel
         property string title
         property list<string> labels
-        model: labels
-        visibleItemCount: 5
+        property alias currentIndex: tumbler.currentIndex
+        readonly property alias count: tumbler.count
         activeFocusOnTab: true
         Layout.fillWidth: true
         Layout.preferredHeight: 176
         Accessible.role: Accessible.SpinBox
         Accessible.name: title + ", " + (labels[currentIndex] ?? "")
-        Accessible.onIncreaseAction: step(1)
-        Accessible.onDecreaseAction: step(-1)
+        Accessible.focusable: true
+        Accessible.ignored: !visible
+        Accessible.onIncreaseAction: if (visible) step(1)
+        Accessible.onDecreaseAction: if (visible) step(-1)
         Keys.onUpPressed: step(-1)
         Keys.onDownPressed: step(1)
         Keys.onReturnPressed: picker.doneClicked(picker.chosenDate())
         Keys.onEnterPressed: picker.doneClicked(picker.chosenDate())
-        onCurrentIndexChanged: picker.wheelMoved()
         function step(delta: int) {
             currentIndex = (currentIndex + delta + count) % count
         }
-        // Spelled out: an inline component does not wrap a delegate object by itself on Qt 6.4.
-        delegate: Component {
-            Label {
-                required property string modelData
-                required property int index // read by the Tumbler's attached displacement
-                text: modelData
-                font.pixelSize: 18
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                opacity: 1.0 - Math.abs(Tumbler.displacement) / (wheel.visibleItemCount / 2)
+        Tumbler {
+            id: tumbler
+            anchors.fill: parent
+            model: wheel.labels
+            visibleItemCount: 5
+            focusPolicy: Qt.NoFocus
+            Accessible.ignored: true
+            onCurrentIndexChanged: picker.wheelMoved()
+            // Spelled out: an inline component does not wrap a delegate object by itself on Qt 6.4.
+            delegate: Component {
+                Label {
+                    required property string modelData
+                    required property int index // read by the Tumbler's attached displacement
+                    text: modelData
+                    font.pixelSize: 18
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    opacity: 1.0 - Math.abs(Tumbler.displacement) / (tumbler.visibleItemCount / 2)
+                }
             }
         }
         Rectangle {

@@ -10,6 +10,7 @@
 #include "UserDefaults.h"
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -206,6 +207,7 @@ private Q_SLOTS:
         QFETCH(int, day);
         TestEnvironment environment;
         insertLeapYear();
+        QAccessible::setActive(true); // as under a screen reader, from the start
         QQmlApplicationEngine engine;
         // Opened on another view than "All".
         QQuickWindow *window = openFromCover(engine, u"GoodNightButton"_s, u"MainTableView"_s);
@@ -215,6 +217,10 @@ private Q_SLOTS:
         QQuickItem *monthWheel = waitForItem(window, u"monthWheel"_s);
         QVERIFY(monthWheel);
         QVERIFY(!findVisibleItem(window, u"yearWheel"_s));
+        // A screen reader finds each wheel as a spin box that says what it shows.
+        QAccessibleInterface *wheel = QAccessible::queryAccessibleInterface(monthWheel);
+        QCOMPARE(wheel->role(), QAccessible::SpinBox);
+        QCOMPARE(wheel->text(QAccessible::Name), u"Month, "_s + QLocale().monthName(QDate::currentDate().month()));
         monthWheel->setProperty("currentIndex", month - 1);
         QQuickItem *dayWheel = findVisibleItem(window, u"dayWheel"_s);
         QTRY_COMPARE(dayWheel->property("count").toInt(), QDate(2024, month, 1).daysInMonth());
