@@ -31,10 +31,10 @@ Popup {
     }
     function show(shown: date) {
         syncing = true
-        yearWheel.currentIndex = shown.getFullYear() - firstYear
-        monthWheel.currentIndex = shown.getMonth()
+        yearWheel.showAt(shown.getFullYear() - firstYear)
+        monthWheel.showAt(shown.getMonth())
         dayWheel.labels = dayLabels(daysIn(shown.getMonth(), shownYear()))
-        dayWheel.currentIndex = shown.getDate() - 1
+        dayWheel.showAt(shown.getDate() - 1)
         syncing = false
         open()
         monthWheel.forceActiveFocus()
@@ -50,7 +50,7 @@ Popup {
             const day = dayWheel.currentIndex
             syncing = true
             dayWheel.labels = dayLabels(days)
-            dayWheel.currentIndex = Math.min(day, days - 1)
+            dayWheel.showAt(Math.min(day, days - 1))
             syncing = false
         }
         picked(chosenDate())
@@ -89,6 +89,11 @@ Popup {
         Keys.onEnterPressed: picker.doneClicked(picker.chosenDate())
         function step(delta: int) {
             currentIndex = (currentIndex + delta + count) % count
+        }
+        // Straight to a day, not spinning through the days between (new labels start at the first).
+        function showAt(index: int) {
+            currentIndex = index
+            tumbler.positionViewAtIndex(index, Tumbler.Center)
         }
         Tumbler {
             id: tumbler
