@@ -32,12 +32,16 @@ Flickable {
     Connections {
         target: surface.appearance
         function onZoomChanged() {
-            const change = surface.appearance.zoom / surface.shownZoom
-            surface.shownZoom = surface.appearance.zoom
+            const zoom = surface.appearance.zoom
+            const change = zoom / surface.shownZoom
+            surface.shownZoom = zoom
+            // The content's new size, whether or not its bindings have caught up yet.
+            const wide = Math.max(surface.width, surface.width * zoom)
+            const high = Math.max(surface.height, textView.implicitHeight * zoom)
             const middleX = (surface.contentX + surface.width / 2) * change
             const middleY = (surface.contentY + surface.height / 2) * change
-            surface.contentX = Math.max(0, Math.min(middleX - surface.width / 2, surface.contentWidth - surface.width))
-            surface.contentY = Math.max(0, Math.min(middleY - surface.height / 2, surface.contentHeight - surface.height))
+            surface.contentX = Math.max(0, Math.min(middleX - surface.width / 2, wide - surface.width))
+            surface.contentY = Math.max(0, Math.min(middleY - surface.height / 2, high - surface.height))
         }
     }
 
