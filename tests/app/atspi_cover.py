@@ -6,7 +6,8 @@ every cover menu button through its action interface with the menu closed and op
 hidden buttons must be absent or refuse, every other button shows under its spoken name and
 opens its screen once the menu is open, and the application must stay alive. Then marks a
 favourite on a list row and presses a segment of the page list, checking that the box reports
-its state and that the list changed.
+its state and that the list changed. Last, on User Defaults, the font field is a combo box that
+carries its family, and a wallpaper row reports its checked state as it toggles.
 
 Run inside dbus-run-session and xvfb-run: atspi_cover.py LARKWELLS_BINARY
 Exits 77 (skipped) only when the accessibility bus cannot be reached at all.
@@ -204,6 +205,24 @@ def press_a_segment(app, application):
         fail("%d segments selected after a press" % len(selected))
 
 
+def wallpaper_rows_as_heard(app, application):
+    """Font fields are combo boxes carrying their family; a wallpaper row carries its state."""
+    import pyatspi
+    go_back(app, application)
+    open_menu(app, application)
+    press(named(app, "User Defaults", "push button")[0])
+    wait_for(lambda: named(app, "Page font, Arial", "combo box"), "the page font field as a combo box")
+    press(wait_for(lambda: [n for n in named(app, "List Wallpapers", "push button") if shown(n)], "List Wallpapers")[0])
+    row = wait_for(lambda: named(app, "AM-36, Used", "list item"), "the first list wallpaper row")[0]
+    wait_for(lambda: row.getState().contains(pyatspi.STATE_CHECKED), "the row in use heard as checked")
+    action = row.queryAction()
+    action.doAction([action.getName(i) for i in range(action.nActions)].index("Toggle"))
+    application.check_alive("toggling a wallpaper row")
+    row = wait_for(lambda: named(app, "AM-36, Not Used", "list item"), "the row no longer in use")[0]
+    if row.getState().contains(pyatspi.STATE_CHECKED):
+        fail("a wallpaper row out of use is still heard as checked")
+
+
 def main():
     if len(sys.argv) != 2:
         print(__doc__)
@@ -234,7 +253,9 @@ def main():
         if opened < 4:
             fail("only %d menu buttons opened their screen with the menu open" % opened)
         press_a_segment(app, application)
-        print("PASS: %d screens opened, no hidden button pressed, segments reload the list" % opened)
+        wallpaper_rows_as_heard(app, application)
+        print("PASS: %d screens opened, no hidden button pressed, segments reload the list, "
+              "settings rows carry their values" % opened)
         return 0
     finally:
         application.stop()
