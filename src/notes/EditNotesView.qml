@@ -76,18 +76,41 @@ Page {
             Accessible.name: qsTr("Subject")
         }
 
-        TextField {
+        // The focus scope is the field's face: a screen reader hears a combo box with the date as
+        // its value, where the read-only text field inside would keep its own editable-text role.
+        FocusScope {
             id: dateField
             objectName: "DateTextField"
+            readonly property alias text: dateText.text
             Layout.fillWidth: true
-            readOnly: true
-            text: controller.DateTextField
+            implicitHeight: dateText.implicitHeight
+            activeFocusOnTab: true
             Accessible.role: Accessible.ComboBox
             Accessible.name: qsTr("Date") + ", " + text
+            Accessible.focusable: true
             Accessible.onPressAction: root.openPicker()
             Keys.onReturnPressed: root.openPicker()
             Keys.onEnterPressed: root.openPicker()
             Keys.onSpacePressed: root.openPicker()
+            TextField {
+                id: dateText
+                anchors.fill: parent
+                readOnly: true
+                activeFocusOnPress: false
+                activeFocusOnTab: false
+                text: controller.DateTextField
+                Accessible.ignored: true
+            }
+            // Focused, it is underlined as a focused text field is.
+            Rectangle {
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: dateText.bottomPadding - 8
+                height: 2
+                color: Theme.tint
+                visible: dateField.activeFocus
+            }
             MouseArea {
                 // A read-only field takes no taps of its own: a tap opens the picker.
                 anchors.fill: parent

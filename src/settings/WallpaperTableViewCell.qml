@@ -27,17 +27,15 @@ ListCell {
     rowHeight: Math.max(184, Math.min(320, width / 3))
     onClicked: userToggle()
     onRowCheckStateChanged: box.setCheckState(rowCheckState, true)
-    // A checkable button follows its row's state: on Qt 6.4 a button hands its own checked state
-    // to a screen reader, whatever Accessible.checked says. A click toggles the button by
-    // itself; the row's state, which the click then changes, stays the one shown.
+    // A checkable button following its row's state, which is what a screen reader hears: on
+    // Qt 6.4 a button hands over its own checked state, whatever Accessible.checked says. A click
+    // toggles the button by itself; the row's state, which the click then changes, stays shown.
     checkable: true
     checked: rowCheckState === 1
     onToggled: checked = Qt.binding(() => cell.rowCheckState === 1)
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: imageName + ", " + useLabel
-    Accessible.checkable: true
-    Accessible.checked: rowCheckState === 1
     Accessible.onToggleAction: if (cell.visible && cell.enabled) cell.userToggle()
 
     // Beside the cell's own (empty) label, so the box can be named.

@@ -6,8 +6,9 @@ every cover menu button through its action interface with the menu closed and op
 hidden buttons must be absent or refuse, every other button shows under its spoken name and
 opens its screen once the menu is open, and the application must stay alive. Then marks a
 favourite on a list row and presses a segment of the page list, checking that the box reports
-its state and that the list changed. Last, on User Defaults, the font field is a combo box that
-carries its family, and a wallpaper row reports its checked state as it toggles.
+its state and that the list changed. Last, a new note's date field and the User Defaults font
+field are combo boxes that carry their values, and a wallpaper row reports its checked state as
+it toggles.
 
 Run inside dbus-run-session and xvfb-run: atspi_cover.py LARKWELLS_BINARY
 Exits 77 (skipped) only when the accessibility bus cannot be reached at all.
@@ -205,6 +206,21 @@ def press_a_segment(app, application):
         fail("%d segments selected after a press" % len(selected))
 
 
+def note_date_as_heard(app, application):
+    """A new note's date field is a combo box carrying the date; it opens the date picker."""
+    go_back(app, application)
+    open_menu(app, application)
+    press(named(app, "Notes", "push button")[0])
+    press(wait_for(lambda: named(app, "New Note", "push button"), "the New Note button")[0])
+    field = wait_for(lambda: [n for n in walk(app) if n.getRoleName() == "combo box"
+                              and n.name.startswith("Date, ")], "the date field as a combo box")[0]
+    press(field)
+    application.check_alive("pressing the date field")
+    press(wait_for(lambda: [n for n in named(app, "Done", "push button") if shown(n)], "the date picker")[0])
+    wait_for(lambda: not [n for n in named(app, "Done", "push button") if shown(n)], "the closed date picker")
+    press([n for n in named(app, "Back", "push button") if shown(n)][0])  # the unchanged note closes
+
+
 def wallpaper_rows_as_heard(app, application):
     """Font fields are combo boxes carrying their family; a wallpaper row carries its state."""
     import pyatspi
@@ -253,6 +269,7 @@ def main():
         if opened < 4:
             fail("only %d menu buttons opened their screen with the menu open" % opened)
         press_a_segment(app, application)
+        note_date_as_heard(app, application)
         wallpaper_rows_as_heard(app, application)
         print("PASS: %d screens opened, no hidden button pressed, segments reload the list, "
               "settings rows carry their values" % opened)
