@@ -7,6 +7,8 @@ import Larkwells
 Page {
     id: root
     objectName: "MainTableView"
+    // The segment is the bar's title; a screen reader names the screen by it.
+    title: controller.segmentTitles[controller.segmentIndex]
     readonly property var unwindTargets: ["unwindSegue"]
     // Built while the list waits, so a chosen page shows in the next frame.
     readonly property string likelySegue: "ViewPoemSegue"

@@ -8,6 +8,8 @@ import Larkwells
 Page {
     id: root
     objectName: "SearchTableView"
+    // The segment is the bar's title; a screen reader names the screen by it.
+    title: controller.segmentTitles[controller.segmentIndex]
     readonly property var unwindTargets: ["unwindSegue"]
     function unwind(identifier: string) { controller.unwindSegue() }
     property bool opened: false

@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Controls
 import Larkwells
 
 // The heading of a block of special days ("Morning", "Night"), announced as a heading; none for
 // rows of neither block.
-Label {
+Heading {
     objectName: "section-" + section
     required property string section
     width: parent ? parent.width : 0
@@ -14,10 +13,6 @@ Label {
     bottomPadding: 4
     leftPadding: 14
     text: section
-    font.pixelSize: Theme.titleFontSize
-    font.bold: true
     color: Theme.quietText
-    Accessible.role: Accessible.Heading
-    Accessible.name: text
     Accessible.ignored: !visible
 }

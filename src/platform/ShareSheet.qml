@@ -31,14 +31,10 @@ Drawer {
 
     contentItem: ColumnLayout {
         spacing: 0
-        Label {
+        Heading {
             Layout.fillWidth: true
             Layout.margins: 16
             text: qsTr("Share")
-            font.bold: true
-            font.pixelSize: 18
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
         Label {
             Layout.fillWidth: true

@@ -30,14 +30,9 @@ Page {
         font.pixelSize: 16
         wrapMode: Text.Wrap
     }
-    component SectionTitle: Label {
+    component SectionTitle: Heading {
         Layout.fillWidth: true
         Layout.topMargin: 12
-        font.pixelSize: Theme.titleFontSize
-        font.bold: true
-        color: "black"
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
     }
     component SizeField: TextField {
         Layout.preferredWidth: 72

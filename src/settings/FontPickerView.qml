@@ -43,14 +43,10 @@ Popup {
     ColumnLayout {
         anchors.fill: parent
         spacing: 8
-        Label {
+        Heading {
             Layout.fillWidth: true
             text: picker.heading
-            font.pixelSize: Theme.titleFontSize
-            font.bold: true
             horizontalAlignment: Text.AlignHCenter
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
         TextField {
             id: filter

@@ -49,15 +49,10 @@ ColumnLayout {
         }
     }
 
-    Label {
+    Heading {
         Layout.fillWidth: true
         Layout.topMargin: 12
         text: qsTr("Reminders")
-        font.pixelSize: Theme.titleFontSize
-        font.bold: true
-        color: "black"
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
     }
     ReminderRow {
         objectName: "MorningReminder"

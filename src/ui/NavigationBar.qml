@@ -43,16 +43,12 @@ ToolBar {
             id: centerSlot
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Label {
+            Heading {
                 anchors.centerIn: parent
                 width: Math.min(implicitWidth, parent.width)
                 visible: centerSlot.children.length === 1
                 text: bar.title
-                font.pixelSize: Theme.titleFontSize
-                font.bold: true
                 elide: Text.ElideRight
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
         }
         Row {

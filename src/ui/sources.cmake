@@ -12,6 +12,7 @@ list(APPEND LARKWELLS_QML
     ui/BottomBar.qml
     ui/FavoriteBox.qml
     ui/FontSizeStepper.qml
+    ui/Heading.qml
     ui/ListCell.qml
     ui/NavigationBar.qml
     ui/PageTurner.qml

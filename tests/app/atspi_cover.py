@@ -7,8 +7,8 @@ hidden buttons must be absent or refuse, every other button shows under its spok
 opens its screen once the menu is open, and the application must stay alive. Then marks a
 favourite on a list row and presses a segment of the page list, checking that the box reports
 its state and that the list changed. Last, a new note's date field and the User Defaults font
-field are combo boxes that carry their values, and a wallpaper row reports its checked state as
-it toggles.
+field are combo boxes that carry their values, titles are headings, and a wallpaper row reports
+its checked state as it toggles.
 
 Run inside dbus-run-session and xvfb-run: atspi_cover.py LARKWELLS_BINARY
 Exits 77 (skipped) only when the accessibility bus cannot be reached at all.
@@ -227,6 +227,7 @@ def wallpaper_rows_as_heard(app, application):
     go_back(app, application)
     open_menu(app, application)
     press(named(app, "User Defaults", "push button")[0])
+    wait_for(lambda: named(app, "User Defaults", "heading") and named(app, "Pages", "heading"), "the titles as headings")
     wait_for(lambda: named(app, "Page font, Arial", "combo box"), "the page font field as a combo box")
     press(wait_for(lambda: [n for n in named(app, "List Wallpapers", "push button") if shown(n)], "List Wallpapers")[0])
     row = wait_for(lambda: named(app, "AM-36, Used", "list item"), "the first list wallpaper row")[0]
