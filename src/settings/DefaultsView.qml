@@ -69,6 +69,7 @@ Page {
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
+            Accessible.ignored: true // the button carries the text
         }
         background: Rectangle {
             radius: Theme.cornerRadius

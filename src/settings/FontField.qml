@@ -41,6 +41,7 @@ FocusScope {
             font.family: field.fontFamily
             font.pixelSize: field.fontSize
             elide: Text.ElideRight
+            Accessible.ignored: true // the family is in the field's name
         }
         background: Rectangle {
             radius: 6
