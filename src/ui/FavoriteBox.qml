@@ -63,6 +63,7 @@ FocusScope {
             color: "black"
             font.family: favorite.fontFamily || Theme.plainFontFamily
             font.pixelSize: favorite.fontSize
+            Accessible.ignored: true // the box above is named "Favorite"
         }
     }
 
