@@ -121,6 +121,7 @@ Page {
     NoteDatePicker {
         id: datePicker
         objectName: "goToDatePicker"
+        title: qsTr("Go to Date")
         parent: Overlay.overlay
         width: parent.width
         y: parent.height - height

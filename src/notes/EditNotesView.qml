@@ -143,6 +143,7 @@ Page {
     NoteDatePicker {
         id: picker
         objectName: "datePickerView"
+        title: qsTr("Date")
         parent: Overlay.overlay
         width: parent.width
         y: parent.height - height

@@ -10,6 +10,8 @@ import Larkwells
 Popup {
     id: picker
     property date date: new Date()
+    // What a screen reader calls the picker.
+    property string title
     signal picked(date date)
     signal doneClicked(date date)
     signal todayClicked()

@@ -4,6 +4,15 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+namespace {
+// The Accessible attached type is private to Qt Quick; its meta-object is public.
+QObject *accessibleOf(QQuickItem *item, bool create)
+{
+    static const QMetaObject *meta = QMetaType::fromName("QQuickAccessibleAttached*").metaObject();
+    return meta ? qmlAttachedPropertiesObject(item, qmlAttachedPropertiesFunction(item, meta), create) : nullptr;
+}
+}
+
 ModalPopups &ModalPopups::shared()
 {
     static ModalPopups *popups = new ModalPopups;
@@ -59,18 +68,21 @@ void ModalPopups::refresh()
     auto *item = m_open.last()->property("contentItem").value<QQuickItem *>();
     while (item && item->parentItem() && !item->parentItem()->inherits("QQuickOverlay"))
         item = item->parentItem();
-    if (item && item->window())
-        cover(item->window()->contentItem(), item);
+    if (!item || !item->window())
+        return;
+    // A popup that is no Dialog has no name of its own: it goes by its title.
+    const QString title = m_open.last()->property("title").toString();
+    if (QObject *accessible = title.isEmpty() ? nullptr : accessibleOf(item, true))
+        accessible->setProperty("name", title);
+    cover(item->window()->contentItem(), item);
 }
 
 void ModalPopups::cover(QQuickItem *item, const QQuickItem *spared)
 {
     if (item == spared)
         return;
-    // The Accessible attached type is private to Qt Quick; its meta-object is public. Only items
-    // already accessible have one.
-    static const QMetaObject *meta = QMetaType::fromName("QQuickAccessibleAttached*").metaObject();
-    QObject *accessible = meta ? qmlAttachedPropertiesObject(item, qmlAttachedPropertiesFunction(item, meta), false) : nullptr;
+    // Only items already accessible have an Accessible object.
+    QObject *accessible = accessibleOf(item, false);
     if (accessible && !accessible->property("ignored").toBool()) {
         // An ignored item is left out of the tree, but what a screen reader already holds of it
         // would still act: that goes, and a new one is made only once it is shown again.

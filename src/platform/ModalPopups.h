@@ -11,7 +11,8 @@ class QQuickItem;
 // may a screen reader. While one is open, every item outside the topmost modal popup leaves the
 // accessibility tree, and what a screen reader found there before goes dead, so it can neither
 // be read nor pressed; once the popup closes it all comes back. Nothing is disabled or hidden:
-// the screen behind keeps its look, its keyboard focus and its state.
+// the screen behind keeps its look, its keyboard focus and its state. A popup with a `title`
+// is named by it.
 class ModalPopups : public QObject
 {
     Q_OBJECT

@@ -10,6 +10,7 @@ import Larkwells
 Drawer {
     id: sheet
     objectName: "shareSheet"
+    readonly property string title: qsTr("Share")
     edge: Qt.BottomEdge
     modal: true
     interactive: Sharing.showing
@@ -34,7 +35,7 @@ Drawer {
         Heading {
             Layout.fillWidth: true
             Layout.margins: 16
-            text: qsTr("Share")
+            text: sheet.title
         }
         Label {
             Layout.fillWidth: true

@@ -10,6 +10,7 @@ Popup {
     id: picker
     required property DefaultsViewController defaults
     property string heading
+    readonly property string title: heading
 
     modal: true
     Component.onCompleted: ModalPopups.watch(picker)

@@ -207,7 +207,7 @@ def press_a_segment(app, application):
 
 
 def note_date_as_heard(app, application):
-    """A new note's date field is a combo box carrying the date; it opens the date picker."""
+    """A new note's date field is a combo box carrying the date; it opens the named date picker."""
     go_back(app, application)
     open_menu(app, application)
     press(named(app, "Notes", "push button")[0])
@@ -216,6 +216,7 @@ def note_date_as_heard(app, application):
                               and n.name.startswith("Date, ")], "the date field as a combo box")[0]
     press(field)
     application.check_alive("pressing the date field")
+    wait_for(lambda: named(app, "Date", "dialog"), "the date picker, a dialog named by its title")
     press(wait_for(lambda: [n for n in named(app, "Done", "push button") if shown(n)], "the date picker")[0])
     wait_for(lambda: not [n for n in named(app, "Done", "push button") if shown(n)], "the closed date picker")
     press([n for n in named(app, "Back", "push button") if shown(n)][0])  # the unchanged note closes
