@@ -263,7 +263,7 @@ Page {
         objectName: "FontPicker"
         defaults: controller
         function edit(field: int, heading: string) {
-            fontPicker.heading = heading
+            fontPicker.title = heading
             controller.beginEditing(field)
             open()
         }

@@ -9,8 +9,8 @@ import Larkwells
 Popup {
     id: picker
     required property DefaultsViewController defaults
-    property string heading
-    readonly property string title: heading
+    // The field being edited, shown on top and read out as the picker's name.
+    property string title
 
     modal: true
     Component.onCompleted: ModalPopups.watch(picker)
@@ -46,7 +46,7 @@ Popup {
         spacing: 8
         Heading {
             Layout.fillWidth: true
-            text: picker.heading
+            text: picker.title
             horizontalAlignment: Text.AlignHCenter
         }
         TextField {
