@@ -1,6 +1,6 @@
 // Launch benchmark: wall and processor time from starting a process to its first frame on screen.
 //
-//   first    larkwells --data-dir <fresh empty folder>   (seeds the whole book, then the cover)
+//   first    larkwells --data-dir <fresh empty folder>   (the seeded book put in place, the cover drawn)
 //   second   the same command on the folder that first launch left behind
 //   minimal  a minimal Qt Quick Controls window (the floor)
 //
@@ -227,7 +227,7 @@ int main(int argc, char **argv)
                     m.rss, median(exitWall));
         return m;
     };
-    const Medians f = row("first launch (seeds 732 pages)", first);
+    const Medians f = row("first launch (fresh data folder)", first);
     const Medians s = row("second launch", second);
     const Medians m = row("minimal Qt Quick window (floor)", minimal);
     const Medians e = row("every screen opened (self-test)", everyScreen);

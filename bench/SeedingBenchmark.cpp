@@ -1,5 +1,6 @@
-// Seeding benchmark: the first launch's page seeding (clear every page, then load the 732 pages
-// of the built-in book: a duplicate check a page, all saved in one transaction) against a floor
+// Seeding benchmark: the page seeding (clear every page, then load the 732 pages of the built-in
+// book: a duplicate check a page, all saved in one transaction), which the build runs once and a
+// first launch runs when the seeded book does not apply (another bundle), against a floor
 // in the same run, a bare SQLite loop through Qt SQL: a prepared check and insert a page inside
 // one transaction, on a freshly created store with the same schema and settings.
 // Prints both and their ratio; nothing is asserted.

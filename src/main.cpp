@@ -1,6 +1,7 @@
 // The composition root: command line, data folder, bundle, services, and the window.
 #include "AppDelegate.h"
 #include "Bundle.h"
+#include "CoverCache.h"
 #include "FileChooserLook.h"
 #include "FirstFrameReport.h"
 #include "PersistentContainer.h"
@@ -202,6 +203,9 @@ int main(int argc, char *argv[])
     AppDelegate::shared().didFinishLaunching();
     Termination::install(app);
 
+    // The cover is drawn for the screen while the screens are built, when it is not kept yet.
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        CoverCache::drawAhead(CoverCache::pixelSize(screen->size(), screen->devicePixelRatio()), screen->devicePixelRatio());
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s); // not a default import path before Qt 6.5
     FileChooserLook::install(engine);
@@ -220,6 +224,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "The book has no page for today.")));
     const int status = testing ? selfTestRun.exec(engine) : QGuiApplication::exec();
     UserDefaults::standard().synchronize();
+    CoverCache::finishDrawing();
     AppDelegate::shared().reset(); // close the store while the database driver still exists
     return status;
 }

@@ -2,15 +2,9 @@
 
 #include "FatalError.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-const QString modelName = u"TheLarkwellsBook"_s;
-}
-
 std::unique_ptr<PersistentContainer> loadedContainer()
 {
-    auto container = std::make_unique<PersistentContainer>(modelName);
+    auto container = std::make_unique<PersistentContainer>(AppDelegate::modelName);
     container->loadPersistentStores([](const std::optional<StoreError> &error) {
         if (error)
             fatalError(error->unresolvedMessage());

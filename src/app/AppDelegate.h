@@ -10,6 +10,8 @@ class AppDelegate
 {
 public:
     static AppDelegate &shared();
+    // The name of the model, and of its store.
+    static inline const QString modelName = QStringLiteral("TheLarkwellsBook");
 
     // Created and loaded on first use; a store that cannot be loaded is a fatal stop.
     PersistentContainer &persistentContainer();

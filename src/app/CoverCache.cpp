@@ -8,6 +8,8 @@
 #include <QSaveFile>
 #include <QSvgRenderer>
 #include <cstring>
+#include <future>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -30,27 +32,25 @@ void removeOthers(QDir folder, const QString &kept)
             folder.remove(name);
     }
 }
-}
 
-QString CoverCache::path(QSize pixelSize, qreal scale)
-{
-    const QString name = prefix + u"%1x%2-scale%3-%4.pixels"_s.arg(pixelSize.width()).arg(pixelSize.height()).arg(scale).arg(Bundle::main().version());
-    return QDir(folder()).filePath(name);
-}
-
-bool CoverCache::draw(const QString &vectorCover, const QString &path, QSize pixelSize)
+QImage render(const QString &vectorCover, QSize pixelSize)
 {
     QSvgRenderer renderer(vectorCover);
-    const QFileInfo target(path);
-    if (pixelSize.isEmpty() || !renderer.isValid() || !QDir().mkpath(target.path()))
-        return false;
+    if (pixelSize.isEmpty() || !renderer.isValid())
+        return {};
     QImage image(pixelSize, QImage::Format_RGB32);
     image.fill(Qt::black);
-    {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        renderer.render(&painter);
-    }
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter);
+    return image;
+}
+
+bool keep(const QImage &image, const QString &path)
+{
+    const QFileInfo target(path);
+    if (image.isNull() || !QDir().mkpath(target.path()))
+        return false;
     QSaveFile file(path);
     const qint32 size[2] = {image.width(), image.height()};
     // Uncompressed: read back in a fifth of the time a PNG takes, and a cover hardly compresses.
@@ -61,6 +61,78 @@ bool CoverCache::draw(const QString &vectorCover, const QString &path, QSize pix
         return false;
     removeOthers(target.dir(), target.fileName());
     return true;
+}
+
+// The one picture being drawn ahead: handed over once when drawn, then kept on disk. Quitting
+// waits for the keeping (the future of std::async does), so no torn file is left.
+struct Drawing {
+    QString path;
+    std::future<QImage> drawn;
+    std::future<bool> kept;
+};
+std::mutex drawingLock;
+
+Drawing &drawing()
+{
+    static Drawing ahead;
+    return ahead;
+}
+}
+
+QSize CoverCache::pixelSize(QSizeF screenSize, qreal scale)
+{
+    const QSizeF natural(1200, 1800);
+    const qreal drawScale = std::min(1.0, std::max(screenSize.width(), screenSize.height()) * scale / natural.height());
+    return (natural * drawScale).toSize();
+}
+
+QString CoverCache::path(QSize pixelSize, qreal scale)
+{
+    const QString name = prefix + u"%1x%2-scale%3-%4.pixels"_s.arg(pixelSize.width()).arg(pixelSize.height()).arg(scale).arg(Bundle::main().version());
+    return QDir(folder()).filePath(name);
+}
+
+bool CoverCache::draw(const QString &vectorCover, const QString &path, QSize pixelSize)
+{
+    return keep(render(vectorCover, pixelSize), path);
+}
+
+void CoverCache::drawAhead(QSize pixelSize, qreal scale)
+{
+    const QString file = vectorCover();
+    const QString target = path(pixelSize, scale);
+    const std::lock_guard lock(drawingLock);
+    Drawing &ahead = drawing();
+    // without a cover in the bundle there is nothing to draw ahead
+    if (pixelSize.isEmpty() || file.isEmpty() || ahead.path == target || QFile::exists(target))
+        return;
+    auto drawn = std::make_shared<std::promise<QImage>>();
+    ahead.path = target;
+    ahead.drawn = drawn->get_future();
+    ahead.kept = std::async(std::launch::async, [drawn, file, target, pixelSize] {
+        const QImage image = render(file, pixelSize);
+        drawn->set_value(image);
+        return keep(image, target);
+    });
+}
+
+QImage CoverCache::takeDrawn(const QString &path)
+{
+    const std::lock_guard lock(drawingLock);
+    Drawing &ahead = drawing();
+    return ahead.path == path && ahead.drawn.valid() ? ahead.drawn.get() : QImage();
+}
+
+void CoverCache::finishDrawing()
+{
+    const std::lock_guard lock(drawingLock);
+    if (drawing().kept.valid())
+        drawing().kept.wait();
+}
+
+QUrl CoverCache::url(const QString &path)
+{
+    return QUrl(u"image://cover/"_s + QFileInfo(path).fileName());
 }
 
 QImage CoverCache::read(const QString &path)
@@ -79,21 +151,31 @@ QImage CoverCache::read(const QString &path)
     return image;
 }
 
-QUrl CoverCache::url(const QString &path)
-{
-    return QUrl(u"image://cover/"_s + QFileInfo(path).fileName());
-}
-
 QString CoverCache::vectorCover()
 {
     const QUrl vector = Bundle::main().imageUrl(u"Cover"_s);
     return vector.scheme() == u"qrc"_s ? u':' + vector.path() : vector.toLocalFile();
 }
 
+void CoverCache::ImageProvider::handOver(const QString &id, const QImage &image)
+{
+    const std::lock_guard lock(m_lock);
+    m_handedOverId = id;
+    m_handedOver = image;
+}
+
 QImage CoverCache::ImageProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
 {
     const QString path = QDir(folder()).filePath(id);
-    QImage image = read(path);
+    QImage image;
+    {
+        const std::lock_guard lock(m_lock);
+        if (id == m_handedOverId)
+            image = std::exchange(m_handedOver, {});
+        m_handedOverId.clear();
+    }
+    if (image.isNull())
+        image = read(path);
     if (image.isNull() && !requestedSize.isEmpty() && draw(vectorCover(), path, requestedSize))
         image = read(path);
     if (size)

@@ -4,6 +4,7 @@
 #include <QQuickImageProvider>
 #include <QSize>
 #include <QString>
+#include <mutex>
 
 // The cover drawn once at the size the screen shows it, kept as a picture under the data folder
 // ("cache/"), so that later launches decode one small picture instead of drawing the vector
@@ -11,26 +12,42 @@
 // It is kept as its bare pixels: reading them back needs no decoder, and no probing of the
 // image plugins, which a format they do not claim sets off.
 namespace CoverCache {
-
+// The size in pixels the cover is drawn at for a screen of this size (in its own units) and
+// scale: as much as the screen can show of it, never more than the picture's own 1200 × 1800.
+QSize pixelSize(QSizeF screenSize, qreal scale);
 // Where the picture of this size in pixels for a screen of this scale is kept.
 QString path(QSize pixelSize, qreal scale);
+// Starts drawing the picture of this size on another thread when it is neither kept nor being
+// drawn: a launch starts it before it builds its screens, and keeps it on disk once drawn.
+void drawAhead(QSize pixelSize, qreal scale);
+// The picture drawn ahead for `path` once it is drawn, perhaps before it is kept; handed over
+// once. A null image when there is none, or it could not be drawn.
+QImage takeDrawn(const QString &path);
+// Waits until the picture drawn ahead is kept on disk.
+void finishDrawing();
+// Where QML finds a picture: "image://cover/" followed by the name of its file.
+QUrl url(const QString &path);
 // Draws the vector cover file into a picture at `path` and removes the pictures of other sizes;
 // false when nothing could be kept. Runs on any thread.
 bool draw(const QString &vectorCover, const QString &path, QSize pixelSize);
 // The picture kept at `path`; a null image when the file is missing or not a kept picture.
 QImage read(const QString &path);
-// Where QML finds a kept picture: "image://cover/" followed by the name of its file.
-QUrl url(const QString &path);
 // The vector cover of the bundle, as a file name QSvgRenderer reads; empty when it has none.
 QString vectorCover();
 
-// Serves "image://cover/<file name>" from the cache folder; a picture found damaged is drawn
-// again at the size asked for.
+// Serves "image://cover/<file name>": a picture handed over, or the one kept in the cache folder;
+// a picture found damaged is drawn again at the size asked for.
 class ImageProvider : public QQuickImageProvider
 {
 public:
     ImageProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
+    // Served once under this name in place of reading the file, which may not be written yet.
+    void handOver(const QString &id, const QImage &image);
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
-};
 
+private:
+    std::mutex m_lock;
+    QString m_handedOverId;
+    QImage m_handedOver;
+};
 }

@@ -36,10 +36,7 @@ Page {
         height: natural.height * coverScale
         source: controller.coverSource
         // Drawn once, at the most the screen can show of it, and kept for later launches.
-        readonly property real drawScale: Math.min(1, Math.max(Screen.width, Screen.height)
-                                                       * Screen.devicePixelRatio / natural.height)
-        sourceSize.width: Math.round(natural.width * drawScale)
-        sourceSize.height: Math.round(natural.height * drawScale)
+        sourceSize: controller.coverPixelSize(Screen.width, Screen.height, Screen.devicePixelRatio)
         smooth: true
         mipmap: true
         Accessible.role: Accessible.Graphic

@@ -12,6 +12,7 @@
 #include "Wallpapers.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -25,22 +26,28 @@ QUrl CoverViewController::img() const
     return Bundle::main().imageUrl(u"Cover"_s);
 }
 
+QSize CoverViewController::coverPixelSize(qreal screenWidth, qreal screenHeight, qreal scale) const
+{
+    return CoverCache::pixelSize({screenWidth, screenHeight}, scale);
+}
+
 void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
 {
     m_coverPath = CoverCache::path(pixelSize, scale);
     if (QQmlEngine *engine = qmlEngine(this); engine && !engine->imageProvider(u"cover"_s))
         engine->addImageProvider(u"cover"_s, new CoverCache::ImageProvider);
-    const QString file = CoverCache::vectorCover();
-    // without a cover in the bundle there is nothing to draw ahead
-    if (pixelSize.isEmpty() || file.isEmpty() || QFile::exists(m_coverPath))
-        return;
-    m_coverDrawn = std::async(std::launch::async, CoverCache::draw, file, m_coverPath, pixelSize);
+    CoverCache::drawAhead(pixelSize, scale); // as a rule under way since the launch began
 }
 
 void CoverViewController::showCover()
 {
-    const bool kept = m_coverDrawn.valid() ? m_coverDrawn.get() : QFile::exists(m_coverPath);
-    m_coverSource = kept ? CoverCache::url(m_coverPath) : img();
+    const QImage drawn = CoverCache::takeDrawn(m_coverPath);
+    QQmlEngine *engine = qmlEngine(this);
+    if (auto *provider = engine ? dynamic_cast<CoverCache::ImageProvider *>(engine->imageProvider(u"cover"_s)) : nullptr;
+        provider && !drawn.isNull())
+        provider->handOver(QFileInfo(m_coverPath).fileName(), drawn);
+    const bool shown = !drawn.isNull() || QFile::exists(m_coverPath);
+    m_coverSource = shown ? CoverCache::url(m_coverPath) : img();
     Q_EMIT coverSourceChanged();
 }
 
@@ -53,8 +60,10 @@ void CoverViewController::viewDidLoad()
         // Set before seeding: a seeding that fails is not tried again on a later launch.
         Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, true);
         Log::line(u"First Launch"_s);
-        m_seeding.clearPoemPrayers();
-        m_seeding.loadPoemPrayers(PageFile::columns);
+        if (!m_seeding.adoptSeededBook()) {
+            m_seeding.clearPoemPrayers();
+            m_seeding.loadPoemPrayers(PageFile::columns);
+        }
         Alerts::shared().present({u"Initial Setup Recomendations?"_s,
                                   u"It's recommended that you go to the User Defaults Menu and turn on wallpapers and select custom fonts to enhance your experience."_s,
                                   {u"Ok"_s}, {}});

@@ -6,7 +6,6 @@
 #include <QQmlEngine>
 #include <QSize>
 #include <QUrl>
-#include <future>
 
 // The home screen: the book's cover and a drop-down menu leading to every other screen. On the
 // first launch it fills the page table before the cover is shown.
@@ -28,8 +27,10 @@ public:
     bool ImportExportButtonHidden() const { return m_ImportExportButtonHidden; }
     QUrl img() const;
     QUrl coverSource() const { return m_coverSource; }
-    // Starts drawing the kept cover for this size in pixels when it is missing, on another
-    // thread, so that a first launch draws while it seeds; viewDidLoad shows it when done.
+    // The size in pixels the cover is drawn at on this screen.
+    Q_INVOKABLE QSize coverPixelSize(qreal screenWidth, qreal screenHeight, qreal scale) const;
+    // Makes sure the cover of this size in pixels is kept or being drawn, on another thread, so
+    // that a first launch draws while it seeds; viewDidLoad shows it when drawn.
     Q_INVOKABLE void prepareCover(QSize pixelSize, qreal scale);
 
     Q_INVOKABLE void viewDidLoad();
@@ -58,5 +59,4 @@ private:
     bool m_ImportExportButtonHidden = true;
     QUrl m_coverSource;
     QString m_coverPath;
-    std::future<bool> m_coverDrawn;
 };

@@ -43,6 +43,11 @@ void PageSeeding::loadPoemPrayers(const QStringList &columns)
     save(context);
 }
 
+bool PageSeeding::adoptSeededBook(const QString &seededStore)
+{
+    return Bundle::main().isBuiltIn() && PersistentContainer(AppDelegate::modelName).adoptStore(seededStore);
+}
+
 std::optional<PageSeeding::Key> PageSeeding::keyOf(const QVariant &month, const QVariant &day, const QVariant &ampm)
 {
     // An absent value, or text that is no number, equals nothing.

@@ -16,6 +16,14 @@ public:
     // day wins. A malformed line is a fatal stop (the lines before it are saved); a missing or
     // unreadable file is logged.
     void loadPoemPrayers(const QStringList &columns);
+    // On a fresh install with the built-in bundle: puts in place the store that the build filled
+    // from that same page file, so the pages are there without reading and inserting each one.
+    // False when that does not apply (a store exists, another bundle, no such store); clearing
+    // and loading are then needed.
+    bool adoptSeededBook(const QString &seededStore = seededBook);
+
+    // Where the application carries the book seeded at build time.
+    static inline const QString seededBook = QStringLiteral(":/seeded/TheLarkwellsBook.sqlite");
 
     std::optional<QString> FileObject;
     int resultCount = 0;

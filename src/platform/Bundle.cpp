@@ -52,6 +52,11 @@ QUrl Bundle::imageUrl(const QString &name) const
     return {};
 }
 
+bool Bundle::isBuiltIn() const
+{
+    return m_root == builtIn;
+}
+
 QString Bundle::version() const
 {
     return QStringLiteral(LARKWELLS_VERSION);

@@ -18,6 +18,8 @@ public:
     QString pathForResource(const QString &name, const QString &type) const;
     // An image loaded by name (svg, png or jpg); an empty URL when there is none.
     QUrl imageUrl(const QString &name) const;
+    // Whether this is the bundle built into the application, not a `--resources` folder.
+    bool isBuiltIn() const;
     // The bundle's version, the application's version.
     QString version() const;
 

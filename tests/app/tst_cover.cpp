@@ -23,6 +23,7 @@ QUrl launch(QSize pixelSize)
     CoverViewController cover;
     cover.prepareCover(pixelSize, 1);
     cover.viewDidLoad();
+    CoverCache::finishDrawing(); // kept on disk by now, as before the next launch
     return cover.coverSource();
 }
 }
@@ -169,6 +170,11 @@ private Q_SLOTS:
         QVERIFY(CoverCache::read(file).isNull());
 
         CoverCache::ImageProvider provider;
+        QImage handedOver(size, QImage::Format_RGB32);
+        handedOver.fill(Qt::red);
+        provider.handOver(url.fileName(), handedOver);
+        QCOMPARE(provider.requestImage(url.fileName(), nullptr, size), handedOver); // served once, unread
+        QVERIFY(CoverCache::read(file).isNull());
         QSize served;
         QCOMPARE(provider.requestImage(url.fileName(), &served, size).size(), size);
         QCOMPARE(served, size);

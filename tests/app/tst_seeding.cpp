@@ -154,6 +154,35 @@ private Q_SLOTS:
         QCOMPARE(UserDefaults::standard().stringForKey(u"Page3"_s), u"true"_s);
     }
 
+    // The store the build seeded is the built-in page file as a first launch would seed it, and a
+    // fresh install with the built-in bundle takes it; over a store, or with another bundle, not.
+    void seededBookIsTheBuiltInBookSeeded()
+    {
+        QStringList seeded;
+        {
+            TestEnvironment environment;
+            PageSeeding seeding;
+            seeding.clearPoemPrayers();
+            seeding.loadPoemPrayers(PageFile::columns);
+            seeded = storedPages();
+        }
+        QCOMPARE(seeded.size(), 732);
+        TestEnvironment environment;
+        QVERIFY(PageSeeding().adoptSeededBook(QStringLiteral(LARKWELLS_SEEDED_BOOK)));
+        QCOMPARE(storedPages(), seeded);
+        ManagedObjectContext &context = AppDelegate::shared().viewContext();
+        context.insertNewObject<Notes>()->setNotes(u"written after"_s);
+        QVERIFY(!context.save()); // the copy is the reader's own store, writable
+        QVERIFY(!PageSeeding().adoptSeededBook(QStringLiteral(LARKWELLS_SEEDED_BOOK)));
+        AppDelegate::shared().reset();
+        QCOMPARE(storedPages(), seeded);
+
+        TestEnvironment another;
+        another.addBundleFile(u"Book.txt"_s, "d1^AM^1^1^1^F^x");
+        QVERIFY(!PageSeeding().adoptSeededBook(QStringLiteral(LARKWELLS_SEEDED_BOOK)));
+        QVERIFY(!QFileInfo::exists(QDir(another.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s)));
+    }
+
     // Loading over pages the store already holds (the clearing skipped or failed): the duplicate
     // check counts those too, and everything loaded survives a restart.
     void storedPagesCountAsDuplicates_data()

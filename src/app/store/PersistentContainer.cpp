@@ -138,28 +138,61 @@ std::optional<StoreError> PersistentContainer::open()
 // nothing to lose: SQLite writes it without flushing, and the finished file is flushed once.
 std::optional<StoreError> PersistentContainer::create(const QString &path)
 {
-    const QString building = path + u".new"_s;
-    for (const QString &suffix : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
-        QFile::remove(building + suffix);
+    const QString newStore = building(path);
     const QString connection = m_connectionName + u"-new"_s;
     std::optional<StoreError> error;
     {
         QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
-        database.setDatabaseName(building);
+        database.setDatabaseName(newStore);
         if (!database.open())
-            error = errorOf(database.lastError(), building);
+            error = errorOf(database.lastError(), newStore);
         if (!error)
-            error = configureUnflushed(database, building);
+            error = configureUnflushed(database, newStore);
         if (!error)
-            error = migrate(database, building);
+            error = migrate(database, newStore);
         database.close();
     }
     QSqlDatabase::removeDatabase(connection);
-    if (!error && !flushToDisk(building))
-        error = StoreError{u"The new store could not be written to disk."_s, {{u"NSFilePath"_s, building}}};
-    if (!error && !QFile::rename(building, path))
-        error = StoreError{u"The new store could not be moved into place."_s, {{u"NSFilePath"_s, path}}};
-    return error;
+    return error ? error : moveIntoPlace(newStore, path);
+}
+
+bool PersistentContainer::adoptStore(const QString &filledStore) const
+{
+    const QString path = storePath();
+    if (QFileInfo::exists(path) || !QDir().mkpath(defaultDirectory()))
+        return false;
+    QFile source(filledStore);
+    if (!source.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = source.readAll();
+    const QString copy = building(path);
+    QFile target(copy);
+    // Written rather than copied: a copy would take the source's read-only permissions.
+    const bool written = !bytes.isEmpty() && target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size();
+    target.close();
+    if (written && !moveIntoPlace(copy, path))
+        return true;
+    QFile::remove(copy);
+    return false;
+}
+
+// Where a new store is written before it is complete; whatever an interrupted start left there
+// is removed.
+QString PersistentContainer::building(const QString &path)
+{
+    const QString newStore = path + u".new"_s;
+    for (const QString &suffix : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
+        QFile::remove(newStore + suffix);
+    return newStore;
+}
+
+std::optional<StoreError> PersistentContainer::moveIntoPlace(const QString &building, const QString &path)
+{
+    if (!flushToDisk(building))
+        return StoreError{u"The new store could not be written to disk."_s, {{u"NSFilePath"_s, building}}};
+    if (!QFile::rename(building, path))
+        return StoreError{u"The new store could not be moved into place."_s, {{u"NSFilePath"_s, path}}};
+    return std::nullopt;
 }
 
 std::optional<StoreError> PersistentContainer::refuseUnwritable(const QString &path)

@@ -24,10 +24,16 @@ public:
     void loadPersistentStores(const std::function<void(const std::optional<StoreError> &)> &completion);
     ManagedObjectContext &viewContext();
     QString storePath() const;
+    // Where no store exists yet, puts a copy of `filledStore` (a store file this version wrote)
+    // in its place instead of an empty new one. False when a store is already there or the
+    // copy could not be made; nothing half-made is left behind.
+    bool adoptStore(const QString &filledStore) const;
 
 private:
     std::optional<StoreError> open();
     std::optional<StoreError> create(const QString &path);
+    static QString building(const QString &path);
+    static std::optional<StoreError> moveIntoPlace(const QString &building, const QString &path);
     static std::optional<StoreError> refuseUnwritable(const QString &path);
     static std::optional<StoreError> check(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
