@@ -2,12 +2,14 @@
 
 #include "FatalError.h"
 
-std::unique_ptr<PersistentContainer> loadedContainer()
+using namespace Qt::StringLiterals;
+
+std::unique_ptr<PersistentContainer> loadedContainer(const QString &screen)
 {
     auto container = std::make_unique<PersistentContainer>(AppDelegate::modelName);
-    container->loadPersistentStores([](const std::optional<StoreError> &error) {
+    container->loadPersistentStores([&screen](const std::optional<StoreError> &error) {
         if (error)
-            fatalError(error->unresolvedMessage());
+            fatalError(error->unresolvedMessage() + (screen.isEmpty() ? QString() : u" ("_s + screen + u')'));
     });
     return container;
 }

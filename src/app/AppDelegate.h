@@ -30,5 +30,6 @@ private:
     std::unique_ptr<PersistentContainer> m_persistentContainer;
 };
 
-// A fresh container on the model's store, loaded; a load failure is a fatal stop.
-std::unique_ptr<PersistentContainer> loadedContainer();
+// A fresh container on the model's store, loaded; a load failure is a fatal stop, whose message
+// ends with the name of the screen that opened the container, when given.
+std::unique_ptr<PersistentContainer> loadedContainer(const QString &screen = {});

@@ -82,6 +82,23 @@ private Q_SLOTS:
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     }
 
+    // A first launch over a store it cannot open (the preferences lost) stops at the seeding,
+    // naming the cover screen, and leaves the store as it is.
+    void firstLaunchOverDamagedStoreNamesTheCover()
+    {
+        TestEnvironment environment;
+        const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
+        writeStore();
+        damage(path, Damage::NotSqlite);
+        const QByteArray bytes = readFile(path);
+
+        CoverViewController cover;
+        const QString message = fatalStop([&cover] { cover.viewDidLoad(); });
+        QVERIFY2(message.startsWith(u"Unresolved error file is not a database"_s)
+                     && message.endsWith(u"} (CoverViewController)"_s), qPrintable(message));
+        QCOMPARE(readFile(path), bytes);
+    }
+
     void damagedPreferencesAreKept_data()
     {
         const QByteArray valid = R"({"FontName": {"type": "string", "value": "Georgia"}, "useWallpaper": {"type": "integer", "value": 1}})";
