@@ -57,6 +57,7 @@ Page {
                 textFormat: Text.PlainText
                 font.family: controller.appearance.ListFontName
                 font.pixelSize: controller.appearance.ListFontSize
+                Accessible.ignored: true // the row's name says it
             }
             onClicked: {
                 table.remember(index)

@@ -29,6 +29,7 @@ Button {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
+        Accessible.ignored: true // the button's name says it
     }
     background: Rectangle {
         radius: Theme.cornerRadius

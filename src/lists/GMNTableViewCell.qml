@@ -36,6 +36,7 @@ ListCell {
             font.pixelSize: cell.fontSize
             font.bold: true
             wrapMode: Text.Wrap
+            Accessible.ignored: true // the row's name says it
         }
         PageNumberLabel {
             objectName: "PageLabel"

@@ -36,6 +36,7 @@ Item {
     Label {
         id: label
         objectName: "PageWords"
+        Accessible.ignored: true // the row's name says it
         x: pageLabel.inColumns
            ? (pageLabel.width - columnWidth.advanceWidth - numberWidth.advanceWidth) / 2
              + columnWidth.advanceWidth - wordsWidth.advanceWidth

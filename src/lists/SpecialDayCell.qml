@@ -21,5 +21,6 @@ ListCell {
         font.pixelSize: cell.fontSize
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
+        Accessible.ignored: true // the row's name says it
     }
 }

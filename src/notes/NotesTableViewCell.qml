@@ -48,6 +48,7 @@ SwipeDelegate {
             font.bold: true
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
+            Accessible.ignored: true // the row's name says it
         }
         Label {
             objectName: "DetailTextLabel"
@@ -59,6 +60,7 @@ SwipeDelegate {
             maximumLineCount: 2
             elide: Text.ElideRight
             wrapMode: Text.Wrap
+            Accessible.ignored: true
         }
         Item {
             // The swipe action as a screen reader finds it, without a swipe.
@@ -95,6 +97,7 @@ SwipeDelegate {
             font.pixelSize: 16
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true // the button's name says it
         }
     }
 }

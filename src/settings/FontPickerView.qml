@@ -104,6 +104,7 @@ Popup {
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                     elide: Text.ElideRight
+                    Accessible.ignored: true // the row's name says it
                 }
                 background: Rectangle {
                     color: row.highlighted ? Theme.tintPressed : (row.down ? Theme.cellPressedColor : "transparent")

@@ -38,6 +38,7 @@ Page {
                 color: "black"
                 font.pixelSize: 17
                 verticalAlignment: Text.AlignVCenter
+                Accessible.ignored: true // the row's name says it
             }
             onClicked: controller.didSelectRowAt(index)
         }

@@ -176,6 +176,18 @@ def row_names(app):
     return names
 
 
+def rows_heard_once(app):
+    """A row is heard by its name alone: no text inside it repeats what the name says."""
+    rows = [node for node in walk(app) if node.getRoleName() == "list item"]
+    if not rows:
+        fail("no rows to listen to")
+    for row in rows:
+        for part in walk(row):
+            text = part.name.strip()
+            if part.getRoleName() == "label" and text and text in row.name:
+                fail("the row %r lists its text %r once more" % (row.name, text))
+
+
 def mark_a_favorite(app, application):
     """The row's favourite box is a named check box whose press marks the page."""
     import pyatspi
@@ -192,6 +204,7 @@ def press_a_segment(app, application):
     press(named(app, "Good Morning", "push button")[0])
     wait_for(lambda: on_list_screen(app), "the page list")
     time.sleep(1)
+    rows_heard_once(app)
     mark_a_favorite(app, application)
     before = row_names(app)
     tab = wait_for(lambda: named(app, "Today", "page tab"), "the Today segment")[0]
