@@ -10,6 +10,9 @@
 #include <cstring>
 #include <future>
 #include <mutex>
+#ifdef Q_OS_LINUX
+#include <sys/resource.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -63,6 +66,16 @@ bool keep(const QImage &image, const QString &path)
     return true;
 }
 
+// Lowers the calling thread's priority, so that drawing ahead takes the processor time that
+// building the screens leaves, not time from it. (The nice value belongs to the thread on Linux
+// and Android; elsewhere it would be the whole process's.)
+void yieldToTheLaunch()
+{
+#ifdef Q_OS_LINUX
+    setpriority(PRIO_PROCESS, 0, 19);
+#endif
+}
+
 // The one picture being drawn ahead: handed over once when drawn, then kept on disk. Quitting
 // waits for the keeping (the future of std::async does), so no torn file is left.
 struct Drawing {
@@ -110,6 +123,7 @@ void CoverCache::drawAhead(QSize pixelSize, qreal scale)
     ahead.path = target;
     ahead.drawn = drawn->get_future();
     ahead.kept = std::async(std::launch::async, [drawn, file, target, pixelSize] {
+        yieldToTheLaunch();
         const QImage image = render(file, pixelSize);
         drawn->set_value(image);
         return keep(image, target);
