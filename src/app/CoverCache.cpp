@@ -79,7 +79,8 @@ void yieldToTheLaunch()
 // The one picture being drawn ahead: handed over once when drawn, then kept on disk. Quitting
 // waits for the keeping (the future of std::async does), so no torn file is left.
 struct Drawing {
-    QString path;
+    QString path, vectorCover;
+    QSize pixelSize;
     std::future<QImage> drawn;
     std::future<bool> kept;
 };
@@ -121,6 +122,8 @@ void CoverCache::drawAhead(QSize pixelSize, qreal scale)
         return;
     auto drawn = std::make_shared<std::promise<QImage>>();
     ahead.path = target;
+    ahead.vectorCover = file;
+    ahead.pixelSize = pixelSize;
     ahead.drawn = drawn->get_future();
     ahead.kept = std::async(std::launch::async, [drawn, file, target, pixelSize] {
         yieldToTheLaunch();
@@ -132,9 +135,24 @@ void CoverCache::drawAhead(QSize pixelSize, qreal scale)
 
 QImage CoverCache::takeDrawn(const QString &path)
 {
-    const std::lock_guard lock(drawingLock);
-    Drawing &ahead = drawing();
-    return ahead.path == path && ahead.drawn.valid() ? ahead.drawn.get() : QImage();
+    std::future<QImage> drawn;
+    QString file;
+    QSize size;
+    {
+        const std::lock_guard lock(drawingLock);
+        Drawing &ahead = drawing();
+        if (ahead.path != path || !ahead.drawn.valid())
+            return {};
+        drawn = std::move(ahead.drawn);
+        file = ahead.vectorCover;
+        size = ahead.pixelSize;
+    }
+    // At its low priority the drawing gets what processor time others leave, which a machine
+    // busy with other work may not: it is waited for a fifth of a second at most, and then drawn
+    // here, at the launch's own priority.
+    if (drawn.wait_for(std::chrono::milliseconds(200)) != std::future_status::ready)
+        return render(file, size);
+    return drawn.get();
 }
 
 void CoverCache::finishDrawing()
@@ -184,9 +202,10 @@ QImage CoverCache::ImageProvider::requestImage(const QString &id, QSize *size, c
     QImage image;
     {
         const std::lock_guard lock(m_lock);
-        if (id == m_handedOverId)
+        if (id == m_handedOverId) {
             image = std::exchange(m_handedOver, {});
-        m_handedOverId.clear();
+            m_handedOverId.clear();
+        }
     }
     if (image.isNull())
         image = read(path);

@@ -170,10 +170,10 @@ bool PersistentContainer::adoptStore(const QString &filledStore) const
     // Written rather than copied: a copy would take the source's read-only permissions.
     const bool written = !bytes.isEmpty() && target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size();
     target.close();
-    if (written && !moveIntoPlace(copy, path))
-        return true;
-    QFile::remove(copy);
-    return false;
+    const bool placed = written && moveIntoPlace(copy, path) == std::nullopt;
+    if (!placed)
+        QFile::remove(copy);
+    return placed;
 }
 
 // Where a new store is written before it is complete; whatever an interrupted start left there
