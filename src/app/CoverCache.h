@@ -20,8 +20,9 @@ QString path(QSize pixelSize, qreal scale);
 // Starts drawing the picture of this size on another thread when it is neither kept nor being
 // drawn: a launch starts it before it builds its screens, and keeps it on disk once drawn.
 void drawAhead(QSize pixelSize, qreal scale);
-// The picture drawn ahead for `path` once it is drawn, perhaps before it is kept; handed over
-// once. A null image when there is none, or it could not be drawn.
+// The picture drawn ahead for `path` once it is drawn, perhaps before it is kept, or drawn on
+// the spot when the drawing ahead is slow; handed over once. A null image when nothing is being
+// drawn for `path`, or it could not be drawn.
 QImage takeDrawn(const QString &path);
 // Waits until the picture drawn ahead is kept on disk.
 void finishDrawing();
