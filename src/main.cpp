@@ -219,6 +219,7 @@ int main(int argc, char *argv[])
             placeWindow(window, directory);
         if (qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
             reportFirstFrameAndQuit(window);
+        QObject::connect(window, &QQuickWindow::frameSwapped, window, &CoverCache::keepDrawn, Qt::SingleShotConnection);
     }
     if (!openPage.isEmpty() && !TodaysPage::open(openPage))
         std::fprintf(stderr, "larkwells: %s\n", qPrintable(QCoreApplication::translate("main", "The book has no page for today.")));

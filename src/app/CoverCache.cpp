@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QSaveFile>
 #include <QSvgRenderer>
+#include <chrono>
 #include <cstring>
 #include <future>
 #include <mutex>
@@ -83,6 +84,7 @@ struct Drawing {
     QSize pixelSize;
     std::future<QImage> drawn;
     std::future<bool> kept;
+    std::shared_ptr<std::promise<void>> shown;
 };
 std::mutex drawingLock;
 
@@ -121,16 +123,27 @@ void CoverCache::drawAhead(QSize pixelSize, qreal scale)
     if (pixelSize.isEmpty() || file.isEmpty() || ahead.path == target || QFile::exists(target))
         return;
     auto drawn = std::make_shared<std::promise<QImage>>();
+    ahead.shown = std::make_shared<std::promise<void>>();
     ahead.path = target;
     ahead.vectorCover = file;
     ahead.pixelSize = pixelSize;
     ahead.drawn = drawn->get_future();
-    ahead.kept = std::async(std::launch::async, [drawn, file, target, pixelSize] {
+    ahead.kept = std::async(std::launch::async, [drawn, shown = ahead.shown->get_future(), file, target, pixelSize] {
         yieldToTheLaunch();
         const QImage image = render(file, pixelSize);
         drawn->set_value(image);
+        // Written once the cover is on screen: the launch needs the picture, not the file. A
+        // window that never shows holds the file back a second at most.
+        shown.wait_for(std::chrono::seconds(1));
         return keep(image, target);
     });
+}
+
+void CoverCache::keepDrawn()
+{
+    const std::lock_guard lock(drawingLock);
+    if (auto shown = std::exchange(drawing().shown, nullptr))
+        shown->set_value();
 }
 
 QImage CoverCache::takeDrawn(const QString &path)
@@ -157,6 +170,7 @@ QImage CoverCache::takeDrawn(const QString &path)
 
 void CoverCache::finishDrawing()
 {
+    keepDrawn();
     const std::lock_guard lock(drawingLock);
     if (drawing().kept.valid())
         drawing().kept.wait();

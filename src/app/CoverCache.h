@@ -18,13 +18,16 @@ QSize pixelSize(QSizeF screenSize, qreal scale);
 // Where the picture of this size in pixels for a screen of this scale is kept.
 QString path(QSize pixelSize, qreal scale);
 // Starts drawing the picture of this size on another thread when it is neither kept nor being
-// drawn: a launch starts it before it builds its screens, and keeps it on disk once drawn.
+// drawn: a launch starts it before it builds its screens. Once drawn, it is kept on disk when
+// `keepDrawn` is called (the cover is on screen), or a second later.
 void drawAhead(QSize pixelSize, qreal scale);
+// Lets the picture drawn ahead be written to disk.
+void keepDrawn();
 // The picture drawn ahead for `path` once it is drawn, perhaps before it is kept, or drawn on
 // the spot when the drawing ahead is slow; handed over once. A null image when nothing is being
 // drawn for `path`, or it could not be drawn.
 QImage takeDrawn(const QString &path);
-// Waits until the picture drawn ahead is kept on disk.
+// Waits until the picture drawn ahead is kept on disk, writing it now if it is still held back.
 void finishDrawing();
 // Where QML finds a picture: "image://cover/" followed by the name of its file.
 QUrl url(const QString &path);
