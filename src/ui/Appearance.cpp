@@ -24,6 +24,7 @@ void ReaderAppearance::read(double defaultFontSize)
     m_NightReading = Preferences::boolForKey(PreferenceKeys::NightReading);
     m_night = m_NightReading && desktopIsDark();
     Q_EMIT changed();
+    Q_EMIT fontSizeChanged(); // the stepper shows the stored size, styled text or not
 }
 
 bool ReaderAppearance::applyTextColor()

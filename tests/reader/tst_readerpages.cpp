@@ -298,6 +298,32 @@ private Q_SLOTS:
         QTRY_VERIFY(findVisibleItem(window, u"row-0"_s)->property("favoriteChecked").toBool());
     }
 
+    // The stepper starts at the stored size whatever the colour code, styled text or not, and one
+    // step up stores one point more.
+    void stepperStartsAtTheStoredSize_data()
+    {
+        QTest::addColumn<qint64>("textColor");
+        QTest::newRow("styled colour") << qint64(2);
+        QTest::newRow("colour code outside the four") << qint64(7);
+    }
+
+    void stepperStartsAtTheStoredSize()
+    {
+        QFETCH(qint64, textColor);
+        TestEnvironment environment;
+        UserDefaults::standard().set(u"textColor"_s, textColor);
+        UserDefaults::standard().set(u"ReaderFontSize"_s, 20.0);
+        Clock::set([] { return QDateTime(QDate(2026, 1, 1), QTime(9, 0)); });
+        insertPages(pages);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openReader(engine, u"TodayButton"_s, QString(), 0);
+        QVERIFY(window);
+        auto *stepper = waitForItem(window, u"FontSizeStepper"_s);
+        QCOMPARE(stepper->property("value").toDouble(), 20.0);
+        click(window, findItem(stepper, u"FontLargerButton"_s));
+        QTRY_COMPARE(UserDefaults::standard().doubleForKey(u"ReaderFontSize"_s), 21.0);
+    }
+
     // The list builds its reader before the tap: each one shows the page then chosen, counts one
     // page opening, and goes once it has left.
     void eachTapOpensAFreshReader()
