@@ -153,7 +153,6 @@ bool EditNotesViewController::save()
         note->setNotes(stored(m_NotesTextView));
         note->setAmpm(stored(selection.selectedAmpm()));
         note->setSubject(stored(m_SubjectTextField));
-        note->setYear(0); // reads as no year, and lets the note's first edit find it by year 0
         if (const auto error = context.save()) {
             context.deleteObject(note); // not kept half-saved: the next try inserts it again
             reportFailedSave(error->unresolvedMessage());

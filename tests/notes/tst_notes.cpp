@@ -176,14 +176,16 @@ private Q_SLOTS:
         QTest::addColumn<bool>("chooseFirst"); // open the first stored note, else a new one
         QTest::addColumn<QStringList>("expected");
 
-        QTest::newRow("new note: the page's day, no date fields") << QStringList() << false
-            << QStringList{u"Walk|by the river|-|-|0|3|3|AM"_s};
+        QTest::newRow("new note: the page's day, no year or date fields") << QStringList() << false
+            << QStringList{u"Walk|by the river|-|-|-|3|3|AM"_s};
         QTest::newRow("edited note found by its key") << QStringList{u"Walk|old|Sunday, March 3, 2024|2024-03-03|2024|3|3|AM"_s} << true
             << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
-        QTest::newRow("first edit of a note saved without date") << QStringList{u"Walk|old|-|-|0|3|3|AM"_s} << true
+        QTest::newRow("first edit of a note saved without year") << QStringList{u"Walk|old|-|-|-|3|3|AM"_s} << true
+            << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
+        QTest::newRow("first edit of a note stored with year 0") << QStringList{u"Walk|old|-|-|0|3|3|AM"_s} << true
             << QStringList{u"Walk|by the river|Monday, April 5, 2027|2027-04-05|2027|4|5|AM"_s};
         QTest::newRow("other time of day: saved as a new note") << QStringList{u"Walk|old|-|-|2024|3|3|PM"_s} << true
-            << QStringList{u"Walk|by the river|-|-|0|3|3|AM"_s, u"Walk|old|-|-|2024|3|3|PM"_s};
+            << QStringList{u"Walk|by the river|-|-|-|3|3|AM"_s, u"Walk|old|-|-|2024|3|3|PM"_s};
         QTest::newRow("two matches: nothing written")
             << QStringList{u"Walk|one|-|-|2024|3|3|AM"_s, u"Walk|two|-|-|2024|3|3|AM"_s} << true
             << QStringList{u"Walk|one|-|-|2024|3|3|AM"_s, u"Walk|two|-|-|2024|3|3|AM"_s};
@@ -232,7 +234,7 @@ private Q_SLOTS:
             editor.setNotesTextView(text);
             editor.SaveButtonClicked();
         }
-        QCOMPARE(storedNotes(), (QStringList{u"|one|-|-|0|0|0|"_s, u"|two|-|-|0|0|0|"_s}));
+        QCOMPARE(storedNotes(), (QStringList{u"|one|-|-|-|0|0|"_s, u"|two|-|-|-|0|0|"_s}));
     }
 
     void aNoteKeepsItsDayInTheEvening()
@@ -321,7 +323,7 @@ private Q_SLOTS:
         QCOMPARE(sqlRun(store, {u"DROP TRIGGER refuse"_s}), QStringList());
         editor.SaveButtonClicked();
         QCOMPARE(unwinds.size(), 1);
-        QCOMPARE(storedNotes(), QStringList{u"Keep me|every word|-|-|0|0|0|"_s});
+        QCOMPARE(storedNotes(), QStringList{u"Keep me|every word|-|-|-|0|0|"_s});
     }
 
     void backAsksOnlyWhenSomethingChanged()

@@ -78,9 +78,16 @@ void Predicate::appendSql(const EntityDescription &entity, QString &out, QVarian
         }
         const auto type = entity.typeOf(m_attribute);
         bindings.append(*type == AttributeType::Date ? QVariant(value.toDateTime().toString(Qt::ISODate)) : value);
-        out += u'"';
+        // An unset number reads as 0.
+        const bool orUnset = *type == AttributeType::Integer16 && value.toLongLong() == 0;
+        out += orUnset ? u"(\""_s : u"\""_s;
         out += m_attribute;
         out += u"\" = ?"_s;
+        if (orUnset) {
+            out += u" OR \""_s;
+            out += m_attribute;
+            out += u"\" IS NULL)"_s;
+        }
         return;
     }
     if (m_subpredicates.isEmpty()) {
@@ -102,11 +109,11 @@ bool Predicate::evaluate(const ManagedObject &object) const
     case Kind::Equals: {
         const QVariant wanted = comparableValue(object.entity(), m_attribute, m_value);
         const QVariant stored = object.valueForKey(m_attribute);
+        const auto type = object.entity().typeOf(m_attribute);
+        if (wanted.isValid() && *type == AttributeType::Integer16)
+            return stored.toLongLong() == wanted.toLongLong(); // an unset number reads as 0
         if (!wanted.isValid() || !stored.isValid())
             return false;
-        const auto type = object.entity().typeOf(m_attribute);
-        if (*type == AttributeType::Integer16)
-            return stored.toLongLong() == wanted.toLongLong();
         if (*type == AttributeType::Date)
             return stored.toDateTime() == wanted.toDateTime();
         return stored.toString() == wanted.toString();
