@@ -97,5 +97,5 @@ void ExportLarkwellFilesViewController::documentPicker(const QUrl &didPickDocume
     Alerts::shared().present({restoreTitle, plan.summary(), {u"Cancel"_s, u"Restore"_s}, [backup](int button) {
                                   if (button == 1)
                                       restore(backup);
-                              }});
+                              }, 0});
 }

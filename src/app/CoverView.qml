@@ -68,7 +68,9 @@ Page {
             color: controlButton.down ? Theme.cellPressedColor : Theme.cellColor
         }
         Accessible.name: controller.menuOpen ? qsTr("Close menu") : qsTr("Menu")
-        Accessible.onPressAction: controlButton.clicked()
+        // Under another screen the cover is hidden, and so is its button.
+        Accessible.ignored: !visible
+        Accessible.onPressAction: if (controlButton.visible) controlButton.clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         onClicked: controller.HandleSelection()

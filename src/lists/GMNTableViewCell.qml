@@ -17,6 +17,7 @@ ListCell {
     signal favoriteChanged(int checkState)
 
     Accessible.name: dateText + ", " + pageText.trim() + (favoriteChecked ? ", " + qsTr("favorite") : "")
+    ListView.onIsCurrentItemChanged: if (!ListView.isCurrentItem && box.activeFocus) ListView.view.forceActiveFocus()
 
     // Plain positioning rather than layouts: rows are made as fast as a flick brings them. The
     // favourite box sits in the right padding, beside the texts; texts shorter than the row sit
@@ -52,8 +53,9 @@ ListCell {
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         interactive: cell.favoriteInteractive
-        // Tab reaches the box of the current row only, then leaves the list.
-        activeFocusOnTab: interactive && cell.ListView.isCurrentItem
+        // Tab reaches the box of the current row only, then leaves the list. When the arrows
+        // move on from a row whose box has the keyboard, the list takes it back.
+        activeFocusOnTab: interactive && (cell.ListView.isCurrentItem || box.activeFocus)
         checked: cell.favoriteChecked
         fontFamily: cell.fontName
         fontSize: Math.min(cell.fontSize, 15)

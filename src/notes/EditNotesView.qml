@@ -36,6 +36,7 @@ Page {
         title: root.title
         onBackClicked: controller.BackButtonClicked()
         BarButton {
+            id: saveButton
             objectName: "SaveButton"
             text: qsTr("Save")
             onClicked: {
@@ -135,7 +136,8 @@ Page {
                 Accessible.name: qsTr("Note text")
                 // Tab leaves the text rather than typing a tab.
                 KeyNavigation.priority: KeyNavigation.BeforeItem
-                KeyNavigation.tab: subjectField
+                KeyNavigation.tab: saveButton
+                KeyNavigation.backtab: dateField
             }
         }
     }

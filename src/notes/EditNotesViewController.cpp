@@ -205,5 +205,6 @@ void EditNotesViewController::BackButtonClicked()
                               [self](int button) {
                                   if (self && button == 0)
                                       Q_EMIT self->dismissRequested();
-                              }});
+                              },
+                              1});
 }

@@ -9,9 +9,11 @@ Dialog {
     objectName: "alertDialog"
     modal: true
     anchors.centerIn: parent
-    // An alert without buttons closes with Escape or a tap outside, so it can never trap the reader.
-    closePolicy: Alerts.buttons.length > 0 ? Popup.NoAutoClose : Popup.CloseOnEscape | Popup.CloseOnPressOutside
-    onClosed: if (Alerts.showing && Alerts.buttons.length === 0) Alerts.dismiss(-1)
+    // An alert without buttons closes with Escape or a tap outside, so it can never trap the
+    // reader; Escape presses the button of an alert that changes nothing.
+    closePolicy: Alerts.buttons.length === 0 ? Popup.CloseOnEscape | Popup.CloseOnPressOutside
+               : Alerts.cancelButton >= 0 ? Popup.CloseOnEscape : Popup.NoAutoClose
+    onClosed: if (Alerts.showing) Alerts.dismiss(Alerts.buttons.length === 0 ? -1 : Alerts.cancelButton)
     // Deferred, so an alert raised while the window is still being built opens once it is shown.
     function follow() {
         if (Alerts.showing)
@@ -53,23 +55,32 @@ Dialog {
             wrapMode: Text.Wrap
             font.bold: true
             font.pixelSize: 16
+            Accessible.ignored: true // the dialog is named by the title
         }
     }
 
     contentItem: Label {
         text: Alerts.message
         wrapMode: Text.WordWrap
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: Alerts.title
-        Accessible.description: text
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
-    // Enter or Space answers an alert with one button; where there is a choice ("Discard" or
-    // "Keep Editing") nothing is chosen until Tab reaches a button.
-    onOpened: if (Alerts.buttons.length === 1) buttonBox.itemAt(0)?.forceActiveFocus()
+    // Enter or Space answers an alert with one button. Where there is a choice ("Discard" or
+    // "Keep Editing") the keyboard starts, ringed, on the button that changes nothing; without
+    // such a button nothing is chosen until Tab reaches one.
+    onOpened: {
+        if (Alerts.buttons.length === 1)
+            buttonBox.itemAt(0)?.forceActiveFocus()
+        else if (Alerts.cancelButton >= 0)
+            buttonBox.itemAt(Alerts.cancelButton)?.forceActiveFocus(Qt.TabFocusReason)
+        else
+            dialog.contentItem.forceActiveFocus()
+    }
 
     footer: DialogButtonBox {
         id: buttonBox
+        Accessible.ignored: true // a row of buttons, not a list of tabs
         background: null // the card's own, border included, shows through
         Repeater {
             model: Alerts.buttons

@@ -16,6 +16,7 @@ class Alerts : public QObject
     Q_PROPERTY(QString title READ title NOTIFY currentChanged)
     Q_PROPERTY(QString message READ message NOTIFY currentChanged)
     Q_PROPERTY(QStringList buttons READ buttons NOTIFY currentChanged)
+    Q_PROPERTY(int cancelButton READ cancelButton NOTIFY currentChanged)
 
 public:
     struct Alert {
@@ -23,6 +24,9 @@ public:
         QString message;
         QStringList buttons;
         std::function<void(int)> handler; // the index of the button pressed
+        // Where there is a choice: the button that changes nothing, which the keyboard starts on
+        // and Escape presses; -1 for none.
+        int cancelButton = -1;
     };
 
     static Alerts &shared();
@@ -36,6 +40,7 @@ public:
     QString title() const { return showing() ? m_queue.first().title : QString(); }
     QString message() const { return showing() ? m_queue.first().message : QString(); }
     QStringList buttons() const { return showing() ? m_queue.first().buttons : QStringList(); }
+    int cancelButton() const { return showing() ? m_queue.first().cancelButton : -1; }
 
     Q_INVOKABLE void dismiss(int buttonIndex);
 

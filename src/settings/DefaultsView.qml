@@ -38,6 +38,7 @@ Page {
         Layout.preferredWidth: 72
         readOnly: true
         activeFocusOnTab: false
+        Accessible.ignored: true // the stepper beside it carries the size
         horizontalAlignment: TextInput.AlignHCenter
         color: "black"
         font.pixelSize: 17
@@ -134,7 +135,6 @@ Page {
                 SizeField {
                     objectName: "ReaderFontSizeTextField"
                     text: controller.ReaderFontSizeText
-                    Accessible.name: qsTr("Page text size")
                 }
                 Item { Layout.fillWidth: true }
                 FontSizeStepper {
@@ -222,7 +222,6 @@ Page {
                 SizeField {
                     objectName: "ListFontSizeTextField"
                     text: controller.ListFontSizeText
-                    Accessible.name: qsTr("List text size")
                 }
                 Item { Layout.fillWidth: true }
                 FontSizeStepper {

@@ -81,6 +81,9 @@ Item {
         anchors.margins: 8
         font.pixelSize: 26
         opacity: enabled ? 1 : 0.35
+        // Out of the keyboard's way when there is no page that side, and so out of a screen
+        // reader's too (it would hear it as enabled).
+        Accessible.ignored: !visible || !enabled
         background: Rectangle {
             radius: width / 2
             color: Theme.cellColor

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Drives the running application over the accessibility bus, as a screen reader does.
 
-While the first-launch advice is open, the cover behind it is out of reach. Then presses
+While the first-launch advice is open, the cover behind it is out of reach, and the advice is
+heard once, title and message. Then presses
 every cover menu button through its action interface with the menu closed and open:
 hidden buttons must be absent or refuse, every other button shows under its spoken name and
 opens its screen once the menu is open, and the application must stay alive. Then marks a
@@ -159,6 +160,8 @@ def press_every_menu_button(app, application, menu_open):
             if on_list_screen(app):
                 if not (menu_open and visible):
                     fail("pressing the hidden or disabled %r opened a screen" % title)
+                if named(app, "Close menu", "push button") or named(app, "Menu", "push button"):
+                    fail("the cover's menu button is heard under the %r screen" % title)
                 opened += 1
                 go_back(app, application)
                 open_menu(app, application)
@@ -186,6 +189,15 @@ def rows_heard_once(app):
             text = part.name.strip()
             if part.getRoleName() == "label" and text and text in row.name:
                 fail("the row %r lists its text %r once more" % (row.name, text))
+
+
+def advice_heard_once(app):
+    """The alert is named by its title, heard once; its message is read as text."""
+    names = [node.name for node in walk(app) if shown(node)]
+    if names.count("Initial Setup Recomendations?") != 1:
+        fail("the advice's title is heard %d times" % names.count("Initial Setup Recomendations?"))
+    if not any(name.startswith("It's recommended that you go to the User Defaults Menu") for name in names):
+        fail("the advice's message is not heard")
 
 
 def mark_a_favorite(app, application):
@@ -271,6 +283,7 @@ def main():
         ok = wait_for(lambda: named(app, "Ok", "push button"), "the first-launch advice")
         # Behind the open advice the cover is out of reach; it comes back once the advice closes.
         wait_for(lambda: not named(app, "Menu", "push button"), "the cover to leave the tree behind the advice")
+        advice_heard_once(app)
         press(ok[0])
         wait_for(lambda: named(app, "Menu", "push button"), "the cover")
         time.sleep(0.5)

@@ -349,6 +349,38 @@ private Q_SLOTS:
         QCOMPARE(dismissals.size(), 2);
     }
 
+    // The keyboard starts on "Keep Editing": Return and Escape keep the note; Discard must be
+    // reached on purpose.
+    void discardAskedByKeyboard_data()
+    {
+        QTest::addColumn<QList<int>>("keys");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("Return keeps editing") << QList<int>{Qt::Key_Return} << u"EditNotesView"_s;
+        QTest::newRow("Escape keeps editing") << QList<int>{Qt::Key_Escape} << u"EditNotesView"_s;
+        QTest::newRow("Tab to Discard, then Return") << QList<int>{Qt::Key_Tab, Qt::Key_Return} << u"NotesTableView"_s;
+    }
+
+    void discardAskedByKeyboard()
+    {
+        QFETCH(QList<int>, keys);
+        QFETCH(QString, page);
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"NotesButton"_s, u"NotesTableView"_s);
+        QVERIFY(window);
+        QVERIFY(clickTo(window, u"AddButton"_s, u"EditNotesView"_s));
+        QQuickItem *text = waitForItem(window, u"NotesTextView"_s);
+        typeInto(window, text, u"half a thought"_s);
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(waitForItem(window, u"alertButton-Keep Editing"_s) && waitForItem(window, u"alertButton-Keep Editing"_s)->hasActiveFocus());
+        for (const int key : keys)
+            QTest::keyClick(window, Qt::Key(key));
+        QTRY_VERIFY(!Alerts::shared().showing());
+        QTRY_COMPARE(topPage(window), page);
+        if (page == u"EditNotesView"_s)
+            QCOMPARE(text->property("text").toString(), u"half a thought"_s);
+    }
+
     // Write a note, find it, edit it, delete it, in the real pages.
     void writeFindEditDelete()
     {
