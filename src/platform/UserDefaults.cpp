@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <cmath>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +36,20 @@ QString typeName(QMetaType::Type type)
     }
 }
 
+// An integer entry holds a whole number a 64-bit integer can take, not 2.5 or 1e300.
+bool wholeNumber(double value)
+{
+    return std::trunc(value) == value && value >= -0x1p63 && value < 0x1p63;
+}
+
+// `path`, or the first of `path`-2, `path`-3 ... that is not taken.
+QString freeName(const QString &path)
+{
+    QString name = path;
+    for (int n = 2; QFile::exists(name); ++n)
+        name = path + u'-' + QString::number(n);
+    return name;
+}
 }
 
 UserDefaults &UserDefaults::standard()
@@ -78,8 +93,8 @@ std::optional<UserDefaults::Contents> UserDefaults::parse(const QByteArray &byte
         const QJsonValue value = entry.value(u"value"_s);
         if (type == u"bool"_s && value.isBool())
             contents.values.insert(it.key(), value.toBool());
-        else if (type == u"integer"_s && value.isDouble())
-            contents.values.insert(it.key(), qint64(value.toInteger()));
+        else if (type == u"integer"_s && value.isDouble() && wholeNumber(value.toDouble()))
+            contents.values.insert(it.key(), qint64(value.toDouble()));
         else if (type == u"double"_s && value.isDouble())
             contents.values.insert(it.key(), value.toDouble());
         else if (type == u"string"_s && value.isString())
@@ -95,24 +110,28 @@ void UserDefaults::load()
     QFile file(m_filePath);
     if (!file.exists())
         return;
-    const auto contents = file.open(QIODevice::ReadOnly) ? parse(file.readAll()) : std::nullopt;
+    // A file that is there but will not open is left as it is: nothing could be written in its
+    // place either.
+    if (!file.open(QIODevice::ReadOnly))
+        fatalError(u"Fatal error: the preferences file %1 cannot be read: %2"_s.arg(m_filePath, file.errorString()));
+    const auto contents = parse(file.readAll());
     file.close();
-    // A damaged file is kept for inspection: moved aside when nothing in it can be read, copied
-    // aside when only some entries are malformed (the next write leaves those out).
-    const QString aside = m_filePath + u".damaged"_s;
+    // A damaged file is kept for inspection, every damaged copy under a name of its own: moved
+    // aside when nothing in it can be read, copied aside when only some entries are malformed
+    // (the next write leaves those out).
+    const QString aside = freeName(m_filePath + u".damaged"_s);
     if (!contents) {
-        QFile::remove(aside);
         QFile::rename(m_filePath, aside);
         Log::line(u"Preferences file unreadable, kept as "_s + aside);
         m_startedAfresh = true;
         return;
     }
     m_values = contents->values;
-    if (contents->malformedKeys.isEmpty())
+    m_malformedKeys = contents->malformedKeys;
+    if (m_malformedKeys.isEmpty())
         return;
-    QFile::remove(aside);
     QFile::copy(m_filePath, aside);
-    for (const QString &key : contents->malformedKeys)
+    for (const QString &key : m_malformedKeys)
         Log::line(u"Preferences: ignored malformed entry "_s + key + u", file kept as "_s + aside);
 }
 

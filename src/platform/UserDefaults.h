@@ -47,8 +47,9 @@ public:
     bool synchronize();
 
     QString filePath() const { return m_filePath; }
-    // Whether the file could not be read at all and was put aside: every setting starts afresh.
-    bool startedAfresh() const { return m_startedAfresh; }
+    // Whether the value of `key` was lost on loading: the file's bytes could not be read at all
+    // (every setting starts afresh), or this entry was malformed.
+    bool lost(const QString &key) const { return m_startedAfresh || m_malformedKeys.contains(key); }
 
     // What a preferences file's bytes hold: the well-formed entries, and the keys of entries whose
     // type and value do not match. None when the bytes are not a JSON object.
@@ -71,5 +72,6 @@ private:
     QString m_filePath;
     QHash<QString, QVariant> m_values;
     bool m_startedAfresh = false;
+    QStringList m_malformedKeys;
     std::future<std::optional<QString>> m_backgroundWrite;
 };

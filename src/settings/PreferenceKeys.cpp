@@ -86,8 +86,9 @@ std::optional<QString> Preferences::stringIfPresent(const PreferenceKey &key)
 
 bool Preferences::boolForKey(const PreferenceKey &key)
 {
-    return UserDefaults::standard().contains(key.name) ? UserDefaults::standard().boolForKey(key.name)
-                                                       : key.absent.toBool();
+    if (!checkedType(key, {Type::Bool}, "true or false"))
+        return key.absent.toBool();
+    return UserDefaults::standard().boolForKey(key.name);
 }
 
 qint64 Preferences::integerOrAbsent(const PreferenceKey &key)

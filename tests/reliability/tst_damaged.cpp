@@ -112,13 +112,16 @@ private Q_SLOTS:
         QTest::newRow("entry type and value disagree")
             << QByteArray(R"({"FontName": {"type": "integer", "value": "Georgia"}, "useWallpaper": {"type": "integer", "value": 1}})")
             << u"Preferences: ignored malformed entry FontName, file kept as "_s << false << true;
+        QTest::newRow("integer entry holding a fraction")
+            << QByteArray(R"({"FontName": {"type": "integer", "value": 1.5}, "useWallpaper": {"type": "integer", "value": 1}})")
+            << u"Preferences: ignored malformed entry FontName, file kept as "_s << false << true;
         QTest::newRow("value of the wrong type for the key")
             << QByteArray(R"({"FontName": {"type": "integer", "value": 12}, "useWallpaper": {"type": "integer", "value": 1}})")
             << u"Fatal error: the setting \"FontName\" holds a value that is not "_s << true << true;
     }
 
-    // Unreadable files and entries are kept aside with their bytes; a readable value of the wrong
-    // type stops at the first read and leaves the file as it is.
+    // Unreadable files and entries are kept aside with their bytes, beside an older damaged copy;
+    // a readable value of the wrong type stops at the first read and leaves the file as it is.
     void damagedPreferencesAreKept()
     {
         QFETCH(QByteArray, bytes);
@@ -128,6 +131,7 @@ private Q_SLOTS:
         TestEnvironment environment;
         const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
         QVERIFY(writeFile(path, bytes));
+        QVERIFY(writeFile(path + u".damaged"_s, "older"));
         UserDefaults::setStandardDirectory(environment.dataDirectory());
 
         QString stop;
@@ -143,16 +147,40 @@ private Q_SLOTS:
             QCOMPARE(readFile(path), bytes);
             return;
         }
-        QVERIFY2(seen.endsWith(path + u".damaged"_s), qPrintable(seen));
+        QVERIFY2(seen.endsWith(path + u".damaged-2"_s), qPrintable(seen));
         Preferences::write(PreferenceKeys::ReaderFontSize, 20.0);
-        QCOMPARE(readFile(path + u".damaged"_s), bytes);
+        QCOMPARE(readFile(path + u".damaged-2"_s), bytes);
+        QCOMPARE(readFile(path + u".damaged"_s), QByteArray("older"));
         QCOMPARE(UserDefaults(path).doubleForKey(u"ReaderFontSize"_s), 20.0);
     }
 
-    // Settings lost to an unreadable file do not cost the reader a favourite or an article: a
-    // table that holds rows is not emptied and seeded again; an empty one still is, at its turn.
+    // A file that is there but will not open (here a folder in its place) is left alone.
+    void unopenablePreferencesStop()
+    {
+        TestEnvironment environment;
+        const QString path = QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s);
+        QVERIFY(QDir().mkpath(path));
+        const QString message = fatalStop([&] { UserDefaults::setStandardDirectory(environment.dataDirectory()); });
+        QVERIFY2(message.startsWith(u"Fatal error: the preferences file "_s + path + u" cannot be read"_s), qPrintable(message));
+        QVERIFY(QFileInfo(path).isDir());
+        QVERIFY(!QFile::exists(path + u".damaged"_s));
+    }
+
+    // Settings lost to an unreadable file, or a malformed flag, do not cost the reader a favourite
+    // or an article: a table that holds rows is not emptied and seeded again; an empty one still
+    // is, at its turn.
+    void lostPreferencesLeaveSeededTablesAlone_data()
+    {
+        QTest::addColumn<QByteArray>("preferences");
+        QTest::newRow("unreadable file") << QByteArray("{\"hasBeenLaunched");
+        QTest::newRow("malformed flags")
+            << QByteArray(R"({"hasBeenLaunchedBeforeFlag": {"type": "bool", "value": 1},
+                             "AboutHasBeenLaunchedBeforeFlag": {"type": "bool", "value": "yes"}})");
+    }
+
     void lostPreferencesLeaveSeededTablesAlone()
     {
+        QFETCH(QByteArray, preferences);
         TestEnvironment environment;
         environment.addBundleFile(u"Book.txt"_s, "d1^AM^1^1^1^F^x");
         ManagedObjectContext &context = AppDelegate::shared().viewContext();
@@ -161,7 +189,7 @@ private Q_SLOTS:
         page->setFavorite(u"T"_s);
         context.insertNewObject<About>()->setName(u"My article"_s);
         QVERIFY(!context.save());
-        QVERIFY(writeFile(QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s), "{\"hasBeenLaunched"));
+        QVERIFY(writeFile(QDir(environment.dataDirectory()).filePath(u"UserDefaults.json"_s), preferences));
         UserDefaults::setStandardDirectory(environment.dataDirectory());
 
         CoverViewController cover;
@@ -223,7 +251,7 @@ private Q_SLOTS:
     void wrongTypeIsFatal_data()
     {
         QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<int>("reader"); // 0 integer, 1 double, 2 string
+        QTest::addColumn<int>("reader"); // 0 integer, 1 double, 2 string, 3 bool
         QTest::addColumn<bool>("fatal");
         QTest::newRow("string read as integer") << QVariant(u"1"_s) << 0 << true;
         QTest::newRow("double read as integer") << QVariant(1.5) << 0 << true;
@@ -231,6 +259,8 @@ private Q_SLOTS:
         QTest::newRow("bool read as double") << QVariant(true) << 1 << true;
         QTest::newRow("integer read as string") << QVariant(3) << 2 << true;
         QTest::newRow("string read as string") << QVariant(u"Arial"_s) << 2 << false;
+        QTest::newRow("string read as a flag") << QVariant(u"no"_s) << 3 << true;
+        QTest::newRow("bool read as a flag") << QVariant(false) << 3 << false;
     }
 
     void wrongTypeIsFatal()
@@ -246,8 +276,10 @@ private Q_SLOTS:
                 Preferences::integerIfPresent(key);
             else if (reader == 1)
                 Preferences::doubleIfPresent(key);
-            else
+            else if (reader == 2)
                 Preferences::stringIfPresent(key);
+            else
+                Preferences::boolForKey(key);
         });
         QCOMPARE(!message.isEmpty(), fatal);
         if (fatal)
