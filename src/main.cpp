@@ -172,7 +172,9 @@ int main(int argc, char *argv[])
         printLinks();
         parser.showVersion();
     }
-    if (parser.isSet(commandLine.help) || parser.isSet(u"help-all"_s))
+    if (parser.isSet(u"help-all"_s))
+        parser.process(QCoreApplication::arguments()); // prints Qt's own options too, and ends
+    if (parser.isSet(commandLine.help))
         parser.showHelp();
     const QString openPage = pageToOpen(parser.value(commandLine.open));
 
