@@ -20,10 +20,10 @@ AppDelegate &AppDelegate::shared()
     return delegate;
 }
 
-PersistentContainer &AppDelegate::persistentContainer()
+PersistentContainer &AppDelegate::persistentContainer(const QString &screen)
 {
     if (!m_persistentContainer)
-        m_persistentContainer = loadedContainer();
+        m_persistentContainer = loadedContainer(screen);
     return *m_persistentContainer;
 }
 

@@ -13,8 +13,9 @@ public:
     // The name of the model, and of its store.
     static inline const QString modelName = QStringLiteral("TheLarkwellsBook");
 
-    // Created and loaded on first use; a store that cannot be loaded is a fatal stop.
-    PersistentContainer &persistentContainer();
+    // Created and loaded on first use; a store that cannot be loaded is a fatal stop, whose
+    // message names the screen that first asked, when given.
+    PersistentContainer &persistentContainer(const QString &screen = {});
     ManagedObjectContext &viewContext() { return persistentContainer().viewContext(); }
 
     // Saves the main context when it has changes; a failed save is a fatal stop.

@@ -18,6 +18,14 @@ Page {
         controller.viewDidLoad()
     }
     StackView.onActivating: controller.viewWillAppear()
+    Connections {
+        id: firstShown
+        target: root.Window.window
+        function onFrameSwapped() {
+            firstShown.enabled = false
+            controller.viewDidAppear()
+        }
+    }
     StackView.onDeactivating: controller.viewWillDisappear()
 
     background: Rectangle { color: "#132036" } // the colour the cover fades into at its edges

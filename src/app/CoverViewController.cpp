@@ -1,6 +1,7 @@
 #include "CoverViewController.h"
 
 #include "Alerts.h"
+#include "AppDelegate.h"
 #include "Bundle.h"
 #include "CoverCache.h"
 #include "Log.h"
@@ -70,6 +71,11 @@ void CoverViewController::viewDidLoad()
     }
     Wallpapers::enableUnsetWallpapers();
     showCover();
+}
+
+void CoverViewController::viewDidAppear()
+{
+    AppDelegate::shared().persistentContainer(u"CoverViewController"_s);
 }
 
 void CoverViewController::viewWillAppear()

@@ -35,6 +35,9 @@ public:
 
     Q_INVOKABLE void viewDidLoad();
     Q_INVOKABLE void viewWillAppear();
+    // The cover is on screen: the store opens now, so a store that will not load stops the app
+    // at start-up, naming the cover, without holding back the first frame.
+    Q_INVOKABLE void viewDidAppear();
     Q_INVOKABLE void viewWillDisappear();
     // The control button: opens or closes the menu.
     Q_INVOKABLE void HandleSelection();

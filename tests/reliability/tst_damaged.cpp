@@ -82,18 +82,31 @@ private Q_SLOTS:
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     }
 
-    // A first launch over a store it cannot open (the preferences lost) stops at the seeding,
-    // naming the cover screen, and leaves the store as it is.
-    void firstLaunchOverDamagedStoreNamesTheCover()
+    // A launch over a store it cannot open stops at start-up, naming the cover screen, and leaves
+    // the store as it is: a first launch (the preferences lost) at the seeding, a later one once
+    // the cover is on screen.
+    void launchOverDamagedStoreNamesTheCover_data()
     {
+        QTest::addColumn<bool>("launchedBefore");
+        QTest::newRow("first launch") << false;
+        QTest::newRow("later launch") << true;
+    }
+
+    void launchOverDamagedStoreNamesTheCover()
+    {
+        QFETCH(bool, launchedBefore);
         TestEnvironment environment;
         const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
         writeStore();
         damage(path, Damage::NotSqlite);
         const QByteArray bytes = readFile(path);
+        Preferences::write(PreferenceKeys::hasBeenLaunchedBeforeFlag, launchedBefore);
 
         CoverViewController cover;
-        const QString message = fatalStop([&cover] { cover.viewDidLoad(); });
+        const QString message = fatalStop([&cover] {
+            cover.viewDidLoad();
+            cover.viewDidAppear();
+        });
         QVERIFY2(message.startsWith(u"Unresolved error file is not a database"_s)
                      && message.endsWith(u"} (CoverViewController)"_s), qPrintable(message));
         QCOMPARE(readFile(path), bytes);
