@@ -1,5 +1,7 @@
 #include "FatalError.h"
 
+#include "UserDefaults.h"
+
 #include <cstdio>
 #include <cstdlib>
 
@@ -21,7 +23,8 @@ void fatalError(const QString &message)
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
     std::fputc('\n', stderr);
     std::fflush(stderr);
-    // Everything worth keeping is already durable: each save is a committed transaction and
-    // each preference write is an atomic file replacement.
+    // Everything worth keeping is durable: each save is a committed transaction and each
+    // preference write an atomic file replacement, the one written in the background once it lands.
+    UserDefaults::finishWriting();
     std::_Exit(EXIT_FAILURE);
 }

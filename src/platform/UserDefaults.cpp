@@ -169,6 +169,12 @@ void UserDefaults::writeFailed(const QString &reason) const
     fatalError(u"Fatal error: cannot write the preferences file "_s + m_filePath + u": "_s + reason);
 }
 
+void UserDefaults::finishWriting()
+{
+    if (standardStore() && standardStore()->m_backgroundWrite.valid())
+        standardStore()->m_backgroundWrite.wait();
+}
+
 bool UserDefaults::synchronize()
 {
     if (!m_backgroundWrite.valid())

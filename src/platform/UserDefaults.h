@@ -45,6 +45,9 @@ public:
     void removeObject(const QString &key);
     // Waits for a background write to reach the disk; one that failed is a fatal stop.
     bool synchronize();
+    // Lets the standard store's background write land, whatever its outcome: a fatal stop waits
+    // for it before it ends the process.
+    static void finishWriting();
 
     QString filePath() const { return m_filePath; }
     // Whether the value of `key` was lost on loading: the file's bytes could not be read at all
