@@ -68,22 +68,26 @@ Dialog {
 
     // Enter or Space answers an alert with one button. Where there is a choice ("Discard" or
     // "Keep Editing") the keyboard starts, ringed, on the button that changes nothing; without
-    // such a button nothing is chosen until Tab reaches one.
-    onOpened: {
+    // such a button nothing is chosen until Tab reaches one. Done again as each button is made:
+    // the dialog is built between frames, and may open before its buttons are all there.
+    function takeKeyboard() {
         if (Alerts.buttons.length === 1)
-            buttonBox.itemAt(0)?.forceActiveFocus()
+            buttons.itemAt(0)?.forceActiveFocus()
         else if (Alerts.cancelButton >= 0)
-            buttonBox.itemAt(Alerts.cancelButton)?.forceActiveFocus(Qt.TabFocusReason)
+            buttons.itemAt(Alerts.cancelButton)?.forceActiveFocus(Qt.TabFocusReason)
         else
             dialog.contentItem.forceActiveFocus()
     }
+    onOpened: takeKeyboard()
 
     footer: DialogButtonBox {
         id: buttonBox
         Accessible.ignored: true // a row of buttons, not a list of tabs
         background: null // the card's own, border included, shows through
         Repeater {
+            id: buttons
             model: Alerts.buttons
+            onItemAdded: if (dialog.opened) dialog.takeKeyboard()
             delegate: DialogButton {
                 required property string modelData
                 required property int index

@@ -52,7 +52,9 @@ ListCell {
             Layout.fillHeight: true
             // A band is drawn only as wide as the row shows it, cut as list rows cut it: drawn
             // whole it would be four times the pixels, and as many milliseconds.
-            source: cell.wholePicture ? cell.image : width > 0 ? "image://covering/" + cell.imageName : ""
+            // A picture missing from the bundle leaves its row blank.
+            source: String(cell.image) === "" ? "" : cell.wholePicture ? cell.image
+                    : width > 0 ? "image://covering/" + cell.imageName : ""
             asynchronous: true
             fillMode: cell.wholePicture ? Image.PreserveAspectFit : Image.Stretch
             // The row's own height, known before the layout sizes the picture: a picture asked
