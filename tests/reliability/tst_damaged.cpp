@@ -16,7 +16,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-enum class Damage { Truncated, ZeroLength, NotSqlite, FutureVersion, ReadOnly };
+enum class Damage { Truncated, ZeroLength, NotSqlite, FutureVersion, ReadOnly, MissingColumn, MissingTable, OldMissingColumn };
 
 // A store with enough pages to fill many database pages, closed.
 void writeStore()
@@ -42,6 +42,16 @@ void damage(const QString &path, Damage how)
         QCOMPARE(sqlRun(path, {u"PRAGMA user_version = 99"_s, u"PRAGMA journal_mode = DELETE"_s}), QStringList{u"delete"_s});
         break;
     case Damage::ReadOnly: QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther); break;
+    case Damage::MissingColumn:
+        QCOMPARE(sqlRun(path, {u"ALTER TABLE Notes DROP COLUMN year"_s, u"PRAGMA journal_mode = DELETE"_s}), QStringList{u"delete"_s});
+        break;
+    case Damage::MissingTable:
+        QCOMPARE(sqlRun(path, {u"DROP TABLE About"_s, u"PRAGMA journal_mode = DELETE"_s}), QStringList{u"delete"_s});
+        break;
+    case Damage::OldMissingColumn: // refused before its upgrade would write to it
+        QCOMPARE(sqlRun(path, {u"ALTER TABLE Notes DROP COLUMN year"_s, u"PRAGMA user_version = 1"_s, u"PRAGMA journal_mode = DELETE"_s}),
+                 QStringList{u"delete"_s});
+        break;
     }
 }
 }
@@ -55,17 +65,23 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("how");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("truncated") << int(Damage::Truncated) << u"Unresolved error database disk image is malformed"_s;
-        QTest::newRow("zero-length") << int(Damage::ZeroLength) << u"Unresolved error The store file is empty."_s;
-        QTest::newRow("not SQLite") << int(Damage::NotSqlite) << u"Unresolved error file is not a database"_s;
-        QTest::newRow("future version") << int(Damage::FutureVersion) << u"Unresolved error The store was written by a newer version"_s;
-        QTest::newRow("read-only") << int(Damage::ReadOnly) << u"Unresolved error The store file is read-only."_s;
+        QTest::addColumn<QString>("detail");
+        const QString model = u"Unresolved error The store does not match the book's model."_s;
+        QTest::newRow("truncated") << int(Damage::Truncated) << u"Unresolved error database disk image is malformed"_s << QString();
+        QTest::newRow("zero-length") << int(Damage::ZeroLength) << u"Unresolved error The store file is empty."_s << QString();
+        QTest::newRow("not SQLite") << int(Damage::NotSqlite) << u"Unresolved error file is not a database"_s << QString();
+        QTest::newRow("future version") << int(Damage::FutureVersion) << u"Unresolved error The store was written by a newer version"_s << QString();
+        QTest::newRow("read-only") << int(Damage::ReadOnly) << u"Unresolved error The store file is read-only."_s << QString();
+        QTest::newRow("column missing") << int(Damage::MissingColumn) << model << u"Notes.year"_s;
+        QTest::newRow("table missing") << int(Damage::MissingTable) << model << u"About.aboutText, About.name"_s;
+        QTest::newRow("column missing, older version") << int(Damage::OldMissingColumn) << model << u"Notes.year"_s;
     }
 
     void damagedStoreStopsAndIsKept()
     {
         QFETCH(int, how);
         QFETCH(QString, reason);
+        QFETCH(QString, detail);
         TestEnvironment environment;
         const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
         writeStore();
@@ -76,7 +92,7 @@ private Q_SLOTS:
 
         const QString message = fatalStop([] { AppDelegate::shared().viewContext(); });
         QVERIFY2(message.startsWith(reason), qPrintable(message));
-        QVERIFY2(message.contains(u", {"_s) && message.contains(path), qPrintable(message));
+        QVERIFY2(message.contains(u", {"_s) && message.contains(path) && message.contains(detail), qPrintable(message));
         QCOMPARE(readFile(path), bytes);
         QCOMPARE(QFileInfo(path).lastModified(), modified);
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);

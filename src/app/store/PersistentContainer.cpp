@@ -1,10 +1,12 @@
 #include "PersistentContainer.h"
 
 #include "FatalError.h"
+#include "ManagedObject.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStandardPaths>
@@ -222,7 +224,8 @@ std::optional<StoreError> PersistentContainer::check(QSqlDatabase &database, con
     if (version > migrations.size())
         return StoreError{u"The store was written by a newer version of the application."_s,
                           {{u"NSFilePath"_s, path}, {u"version"_s, version}}};
-    return std::nullopt;
+    // Every column is there from the first version on; a store of none is still to be made.
+    return version >= 1 ? matchModel(database, path) : std::nullopt;
 }
 
 std::optional<StoreError> PersistentContainer::configure(QSqlDatabase &database, const QString &path)
@@ -258,4 +261,28 @@ std::optional<StoreError> PersistentContainer::migrate(QSqlDatabase &database, c
             return errorOf(database.lastError(), path);
     }
     return std::nullopt;
+}
+
+// A store with a table or a column missing (left so by another program, or by hand) is refused
+// when it opens, not at the first fetch or save that reaches for it.
+std::optional<StoreError> PersistentContainer::matchModel(QSqlDatabase &database, const QString &path)
+{
+    QSqlQuery query(database);
+    if (!query.exec(u"SELECT t.name, c.name FROM sqlite_master AS t JOIN pragma_table_info(t.name) AS c "
+                    "WHERE t.type = 'table'"_s))
+        return errorOf(query.lastError(), path);
+    QSet<QString> columns;
+    while (query.next())
+        columns.insert((query.value(0).toString() + u'.' + query.value(1).toString()).toLower()); // as SQLite reads names
+    QStringList missing;
+    for (const EntityDescription &entity : EntityDescription::model()) {
+        for (const AttributeDescription &attribute : entity.attributes) {
+            if (const QString column = entity.name + u'.' + attribute.name; !columns.contains(column.toLower()))
+                missing << column;
+        }
+    }
+    if (missing.isEmpty())
+        return std::nullopt;
+    return StoreError{u"The store does not match the book's model."_s,
+                      {{u"NSFilePath"_s, path}, {u"missing"_s, missing.join(u", "_s)}}};
 }

@@ -39,6 +39,7 @@ private:
     static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> configureUnflushed(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> migrate(QSqlDatabase &database, const QString &path);
+    static std::optional<StoreError> matchModel(QSqlDatabase &database, const QString &path);
 
     QString m_name;
     QString m_connectionName;
