@@ -125,11 +125,11 @@ void EditNotesViewController::segmentedControlAction(int index)
 
 void EditNotesViewController::SaveButtonClicked()
 {
-    if (save())
-        Navigator::shared().unwind(u"unwindToNotesSegue"_s);
+    save();
+    Navigator::shared().unwind(u"unwindToNotesSegue"_s);
 }
 
-bool EditNotesViewController::save()
+void EditNotesViewController::save()
 {
     const Selection &selection = Selection::shared();
     FetchRequest request = Notes::fetchRequest();
@@ -153,12 +153,9 @@ bool EditNotesViewController::save()
         note->setNotes(stored(m_NotesTextView));
         note->setAmpm(stored(selection.selectedAmpm()));
         note->setSubject(stored(m_SubjectTextField));
-        if (const auto error = context.save()) {
-            context.deleteObject(note); // not kept half-saved: the next try inserts it again
-            reportFailedSave(error->unresolvedMessage());
-            return false;
-        }
-        return true;
+        if (const auto error = context.save())
+            reportFailedSave(note, error->unresolvedMessage());
+        return;
     }
     if (Results.size() == 1) {
         Notes *note = Results.first();
@@ -168,27 +165,19 @@ bool EditNotesViewController::save()
             {u"day"_s, date.day()}, {u"ampm"_s, stored(selection.selectedAmpm())},
             {u"subject"_s, stored(m_SubjectTextField)}, {u"dt"_s, m_NoteDate}, {u"dtstring"_s, m_DateTextField},
         };
-        QVariantHash before;
-        for (auto it = values.cbegin(); it != values.cend(); ++it) {
-            before.insert(it.key(), note->valueForKey(it.key()));
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
             note->setValueForKey(it.key(), it.value());
-        }
-        if (const auto error = note->managedObjectContext()->save()) {
-            // Back as stored, so the next try finds the note again by its old subject.
-            for (auto it = before.cbegin(); it != before.cend(); ++it)
-                note->setValueForKey(it.key(), it.value());
-            reportFailedSave(error->unresolvedMessage());
-            return false;
-        }
+        if (const auto error = note->managedObjectContext()->save())
+            reportFailedSave(note, error->unresolvedMessage());
     }
     // Two or more matches: which one is meant cannot be told, so nothing is written.
-    return true;
 }
 
-void EditNotesViewController::reportFailedSave(const QString &description)
+void EditNotesViewController::reportFailedSave(Notes *note, const QString &description)
 {
-    // Logged only, as every failed save is; the editor stays open with the text, so nothing
-    // the reader wrote is lost and Save can be pressed again.
+    // Logged only, as every failed save is, and the editor still returns to the list. The note is
+    // not left pending for a later save to try again: the list shows it as it is kept.
+    note->managedObjectContext()->discardChanges(note);
     Log::line(description);
 }
 

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QQmlEngine>
 
+class Notes;
+
 // Writes one note: its subject, its text and its date. Opens empty for a new note or filled with
 // the note chosen in the list; a note also takes the month, day and time of day of the page
 // last opened.
@@ -61,8 +63,8 @@ Q_SIGNALS:
     void dismissRequested();
 
 private:
-    bool save();
-    void reportFailedSave(const QString &description);
+    void save();
+    void reportFailedSave(Notes *note, const QString &description);
 
     QString m_SubjectTextField;
     QString m_NotesTextView;

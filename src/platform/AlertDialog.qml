@@ -69,8 +69,13 @@ Dialog {
     // Enter or Space answers an alert with one button. Where there is a choice ("Discard" or
     // "Keep Editing") the keyboard starts, ringed, on the button that changes nothing; without
     // such a button nothing is chosen until Tab reaches one. Done again as each button is made:
-    // the dialog is built between frames, and may open before its buttons are all there.
+    // the dialog is built between frames, and may open before its buttons are all there. A
+    // button the reader has already moved to keeps the keyboard.
     function takeKeyboard() {
+        for (let i = 0; i < buttons.count; ++i) {
+            if (buttons.itemAt(i)?.activeFocus)
+                return
+        }
         if (Alerts.buttons.length === 1)
             buttons.itemAt(0)?.forceActiveFocus()
         else if (Alerts.cancelButton >= 0)

@@ -65,9 +65,9 @@ void ManagedObject::setValueForKey(const QString &key, const QVariant &value)
         case AttributeType::Date: stored = value.toDateTime().toLocalTime(); break; // as read back
         }
     }
-    m_values[index] = stored;
     if (!m_inserted && m_context)
         m_context->markUpdated(this);
+    m_values[index] = stored;
 }
 
 std::optional<QString> ManagedObject::string(const QString &key) const

@@ -69,6 +69,7 @@ private:
     qint64 m_id = 0;
     // In the entity's column order: a hash per object cost kilobytes a page and a note.
     QList<QVariant> m_values;
+    QList<QVariant> m_stored; // the values as stored, while changed and not saved
     bool m_inserted = false;
     bool m_updated = false;
     bool m_deleted = false;

@@ -82,6 +82,7 @@ void ManagedObjectContext::markUpdated(ManagedObject *object)
 {
     if (!object->m_updated && !object->m_deleted) {
         object->m_updated = true;
+        object->m_stored = object->m_values;
         m_updated.append(object);
     }
 }
@@ -330,12 +331,31 @@ std::optional<StoreError> ManagedObjectContext::save()
         object->m_inserted = false;
         m_registered[object->entity().name].insert(object->m_id, object);
     }
-    for (ManagedObject *object : std::as_const(m_updated))
+    for (ManagedObject *object : std::as_const(m_updated)) {
         object->m_updated = false;
+        object->m_stored.clear();
+    }
     for (ManagedObject *object : std::as_const(m_deleted))
         m_registered[object->entity().name].remove(object->m_id);
     m_inserted.clear();
     m_updated.clear();
     m_deleted.clear();
     return std::nullopt;
+}
+
+void ManagedObjectContext::discardChanges(ManagedObject *object)
+{
+    if (object->m_inserted) {
+        deleteObject(object);
+        return;
+    }
+    if (object->m_updated) {
+        object->m_values = std::exchange(object->m_stored, {});
+        object->m_updated = false;
+        m_updated.removeOne(object);
+    }
+    if (object->m_deleted) {
+        object->m_deleted = false;
+        m_deleted.removeOne(object);
+    }
 }

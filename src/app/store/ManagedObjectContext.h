@@ -60,6 +60,9 @@ public:
     bool hasChanges() const;
     // Writes every insert, change and deletion since the last save in one transaction.
     std::optional<StoreError> save();
+    // Forgets what was done to this object since the last save: changed, it reads as stored
+    // again; inserted, it is gone; deleted, it is back.
+    void discardChanges(ManagedObject *object);
 
 private:
     friend class ManagedObject;
