@@ -117,22 +117,46 @@ void installTranslations(QGuiApplication &app)
         QCoreApplication::installTranslator(qt);
 }
 
-// The window opens at phone size on a desktop (Main.qml) and full screen on a phone-sized
-// screen; on a desktop it comes back where the reader left it.
-void placeWindow(QQuickWindow *window, const QString &dataDirectory)
+bool phoneSized(const QScreen *screen)
 {
-    const QRect available = window->screen()->availableGeometry();
-    if (std::min(available.width(), available.height()) < 600) {
+    const QRect available = screen->availableGeometry();
+    return std::min(available.width(), available.height()) < 600;
+}
+
+QString windowFile(const QString &dataDirectory)
+{
+    return QDir(dataDirectory).filePath(u"Window.ini"_s);
+}
+
+// Where the reader left the window on a desktop, when that is still on a screen.
+QRect savedGeometry(const QString &dataDirectory)
+{
+    const QRect saved = QSettings(windowFile(dataDirectory), QSettings::IniFormat).value(u"geometry"_s).toRect();
+    return saved.isValid() && QGuiApplication::screenAt(saved.center()) ? saved : QRect();
+}
+
+// The size the window opens at: the whole screen on a phone-sized one; on a desktop the size the
+// reader left it at, else phone size (Main.qml's own), within the screen, whose bottom bar would
+// otherwise run off a small one.
+QSize openingSize(const QScreen *screen, const QRect &saved)
+{
+    if (phoneSized(screen))
+        return screen->geometry().size();
+    return (saved.isValid() ? saved.size() : QSize(412, 915)).boundedTo(screen->availableGeometry().size());
+}
+
+// The window opens full screen on a phone-sized screen; on a desktop it comes back where the
+// reader left it (`saved`).
+void placeWindow(QQuickWindow *window, const QString &dataDirectory, const QRect &saved)
+{
+    if (phoneSized(window->screen())) {
         window->setGeometry(window->screen()->geometry()); // for a compositor that ignores the state
         window->showFullScreen();
         return;
     }
-    const QString file = QDir(dataDirectory).filePath(u"Window.ini"_s);
-    const QRect saved = QSettings(file, QSettings::IniFormat).value(u"geometry"_s).toRect();
-    if (saved.isValid() && QGuiApplication::screenAt(saved.center()))
-        window->setGeometry(saved);
-    // On a small desktop the phone-sized window would run off the screen, its bottom bar with it.
-    window->resize(window->size().boundedTo(available.size()));
+    const QString file = windowFile(dataDirectory);
+    if (saved.isValid())
+        window->setPosition(saved.topLeft());
     // Quitting hides the window before aboutToQuit, so the last windowed geometry is kept as it changes.
     auto last = std::make_shared<QRect>(window->geometry());
     const auto keep = [window, last] {
@@ -205,10 +229,15 @@ int main(int argc, char *argv[])
     AppDelegate::shared().didFinishLaunching();
     Termination::install(app);
 
-    // The cover is drawn for the screen while the screens are built, when it is not kept yet.
-    if (const QScreen *screen = QGuiApplication::primaryScreen())
-        CoverCache::drawAhead(CoverCache::pixelSize(screen->size(), screen->devicePixelRatio()), screen->devicePixelRatio());
+    // The window is made at the size it opens at, and the cover drawn for it while the screens
+    // are built, when it is not kept yet.
     QQmlApplicationEngine engine;
+    const QRect saved = testing ? QRect() : savedGeometry(directory);
+    if (const QScreen *screen = QGuiApplication::primaryScreen(); screen && !testing) {
+        const QSize size = openingSize(screen, saved);
+        engine.setInitialProperties({{u"width"_s, size.width()}, {u"height"_s, size.height()}});
+        CoverCache::drawAhead(CoverCache::pixelSize(size, screen->devicePixelRatio()), screen->devicePixelRatio());
+    }
     engine.addImportPath(u"qrc:/qt/qml"_s); // not a default import path before Qt 6.5
     FileChooserLook::install(engine);
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app,
@@ -218,7 +247,7 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     if (auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst())) {
         if (!testing)
-            placeWindow(window, directory);
+            placeWindow(window, directory, saved);
         if (qEnvironmentVariableIsSet("LARKWELLS_QUIT_AFTER_FIRST_FRAME"))
             reportFirstFrameAndQuit(window);
         QObject::connect(window, &QQuickWindow::frameSwapped, window, &CoverCache::keepDrawn, Qt::SingleShotConnection);

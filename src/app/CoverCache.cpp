@@ -95,11 +95,14 @@ Drawing &drawing()
 }
 }
 
-QSize CoverCache::pixelSize(QSizeF screenSize, qreal scale)
+QSize CoverCache::pixelSize(QSizeF windowSize, qreal scale)
 {
     const QSizeF natural(1200, 1800);
-    const qreal drawScale = std::min(1.0, std::max(screenSize.width(), screenSize.height()) * scale / natural.height());
-    return (natural * drawScale).toSize();
+    const qreal shorter = std::min(windowSize.width(), windowSize.height());
+    const qreal longer = std::max(windowSize.width(), windowSize.height());
+    // Upright the cover fills the window, its sides cropped; turned it fits, and needs no more.
+    const qreal fill = std::max(shorter / natural.width(), longer / natural.height());
+    return (natural * std::min(1.0, fill * scale)).toSize();
 }
 
 QString CoverCache::path(QSize pixelSize, qreal scale)

@@ -6,15 +6,16 @@
 #include <QString>
 #include <mutex>
 
-// The cover drawn once at the size the screen shows it, kept as a picture under the data folder
+// The cover drawn once at the size the window shows it, kept as a picture under the data folder
 // ("cache/"), so that later launches decode one small picture instead of drawing the vector
 // cover. One picture is kept, named by its size, the screen's scale and the application version.
 // It is kept as its bare pixels: reading them back needs no decoder, and no probing of the
 // image plugins, which a format they do not claim sets off.
 namespace CoverCache {
-// The size in pixels the cover is drawn at for a screen of this size (in its own units) and
-// scale: as much as the screen can show of it, never more than the picture's own 1200 × 1800.
-QSize pixelSize(QSizeF screenSize, qreal scale);
+// The size in pixels the cover is drawn at for a window of this size (in its own units) and
+// scale: as much as the window shows of it upright or turned, never more than the picture's own
+// 1200 × 1800.
+QSize pixelSize(QSizeF windowSize, qreal scale);
 // Where the picture of this size in pixels for a screen of this scale is kept.
 QString path(QSize pixelSize, qreal scale);
 // Starts drawing the picture of this size on another thread when it is neither kept nor being

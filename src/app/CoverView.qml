@@ -13,9 +13,34 @@ Page {
     function unwind(identifier: string) {}
 
     CoverViewController { id: controller }
+    // The size in pixels the picture shown was drawn at.
+    property size drawnSize
+    // The picture's size in pixels for the window as it is now.
+    function pictureSize() {
+        const window = root.Window.window
+        return controller.coverPixelSize(window ? window.width : Screen.width, window ? window.height : Screen.height,
+                                         Screen.devicePixelRatio)
+    }
     Component.onCompleted: {
-        controller.prepareCover(img.sourceSize, Screen.devicePixelRatio)
+        drawnSize = pictureSize()
+        img.sourceSize = drawnSize // for the vector cover, when no picture can be kept
+        controller.prepareCover(drawnSize, Screen.devicePixelRatio)
         controller.viewDidLoad()
+    }
+    // A window grown past what the picture was drawn for has it drawn again, once the resizing
+    // stops; a smaller one scales the picture down.
+    onWidthChanged: regrow.restart()
+    onHeightChanged: regrow.restart()
+    Timer {
+        id: regrow
+        interval: 300
+        onTriggered: {
+            const size = root.pictureSize()
+            if (size.width <= root.drawnSize.width)
+                return
+            root.drawnSize = size
+            controller.redrawCover(size, Screen.devicePixelRatio)
+        }
     }
     StackView.onActivating: controller.viewWillAppear()
     Connections {
@@ -43,8 +68,8 @@ Page {
         width: natural.width * coverScale
         height: natural.height * coverScale
         source: controller.coverSource
-        // Drawn once, at the most the screen can show of it, and kept for later launches.
-        sourceSize: controller.coverPixelSize(Screen.width, Screen.height, Screen.devicePixelRatio)
+        // Drawn once for the window the book opens in (set once the page is made), and kept for
+        // later launches.
         smooth: true
         mipmap: true
         Accessible.role: Accessible.Graphic

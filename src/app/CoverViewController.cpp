@@ -27,9 +27,9 @@ QUrl CoverViewController::img() const
     return Bundle::main().imageUrl(u"Cover"_s);
 }
 
-QSize CoverViewController::coverPixelSize(qreal screenWidth, qreal screenHeight, qreal scale) const
+QSize CoverViewController::coverPixelSize(qreal windowWidth, qreal windowHeight, qreal scale) const
 {
-    return CoverCache::pixelSize({screenWidth, screenHeight}, scale);
+    return CoverCache::pixelSize({windowWidth, windowHeight}, scale);
 }
 
 void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
@@ -38,6 +38,13 @@ void CoverViewController::prepareCover(QSize pixelSize, qreal scale)
     if (QQmlEngine *engine = qmlEngine(this); engine && !engine->imageProvider(u"cover"_s))
         engine->addImageProvider(u"cover"_s, new CoverCache::ImageProvider);
     CoverCache::drawAhead(pixelSize, scale); // as a rule under way since the launch began
+}
+
+void CoverViewController::redrawCover(QSize pixelSize, qreal scale)
+{
+    prepareCover(pixelSize, scale);
+    showCover();
+    CoverCache::keepDrawn();
 }
 
 void CoverViewController::showCover()

@@ -27,11 +27,14 @@ public:
     bool ImportExportButtonHidden() const { return m_ImportExportButtonHidden; }
     QUrl img() const;
     QUrl coverSource() const { return m_coverSource; }
-    // The size in pixels the cover is drawn at on this screen.
-    Q_INVOKABLE QSize coverPixelSize(qreal screenWidth, qreal screenHeight, qreal scale) const;
+    // The size in pixels the cover is drawn at in a window of this size.
+    Q_INVOKABLE QSize coverPixelSize(qreal windowWidth, qreal windowHeight, qreal scale) const;
     // Makes sure the cover of this size in pixels is kept or being drawn, on another thread, so
     // that a first launch draws while it seeds; viewDidLoad shows it when drawn.
     Q_INVOKABLE void prepareCover(QSize pixelSize, qreal scale);
+    // Shows the cover drawn at a larger size, for a window grown past the one it was drawn for,
+    // and keeps it for the next launch.
+    Q_INVOKABLE void redrawCover(QSize pixelSize, qreal scale);
 
     Q_INVOKABLE void viewDidLoad();
     Q_INVOKABLE void viewWillAppear();

@@ -148,6 +148,50 @@ private Q_SLOTS:
         }
     }
 
+    void pictureCoversTheWindow_data()
+    {
+        QTest::addColumn<QSizeF>("window");
+        QTest::addColumn<qreal>("scale");
+        QTest::addColumn<QSize>("picture");
+        QTest::newRow("phone-sized desktop window: its height") << QSizeF(412, 915) << 1.0 << QSize(610, 915);
+        QTest::newRow("the same window turned") << QSizeF(915, 412) << 1.0 << QSize(610, 915);
+        QTest::newRow("a wide portrait window: its width") << QSizeF(900, 1000) << 1.0 << QSize(900, 1350);
+        QTest::newRow("a phone's dense screen: the whole picture") << QSizeF(412, 915) << 2.625 << QSize(1200, 1800);
+    }
+
+    void pictureCoversTheWindow()
+    {
+        QFETCH(QSizeF, window);
+        QFETCH(qreal, scale);
+        QFETCH(QSize, picture);
+        QCOMPARE(CoverCache::pixelSize(window, scale), picture);
+    }
+
+    // A window grown past what the cover was drawn for has it drawn again, kept in place of the
+    // smaller one; a window made smaller again keeps the larger picture.
+    void grownWindowRedrawsTheCover()
+    {
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        window->resize(412, 915);
+        QQuickItem *img = waitForItem(window, u"img"_s);
+        const auto shown = [img] { return img->property("source").toUrl().fileName(); };
+        QTRY_VERIFY2(shown().startsWith(u"Cover-610x915-"_s), qPrintable(shown()));
+
+        window->resize(900, 1000);
+        QTRY_VERIFY2(shown().startsWith(u"Cover-900x1350-"_s), qPrintable(shown()));
+        QCOMPARE(img->property("implicitWidth").toReal(), 900.0);
+        CoverCache::finishDrawing();
+        const QDir cache(QDir(environment.dataDirectory()).filePath(u"cache"_s));
+        QCOMPARE(cache.entryList({u"Cover-*"_s}, QDir::Files), QStringList{shown()});
+
+        window->resize(412, 915);
+        QTest::qWait(500);
+        QVERIFY2(shown().startsWith(u"Cover-900x1350-"_s), qPrintable(shown()));
+    }
+
     void damagedPictureIsDrawnAgain_data()
     {
         QTest::addColumn<QByteArray>("content");
