@@ -4,6 +4,7 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "Clock.h"
+#include "CoverCache.h"
 #include "FatalError.h"
 #include "FileChooserLook.h"
 #include "Log.h"
@@ -51,7 +52,9 @@ TestEnvironment::TestEnvironment()
 
 TestEnvironment::~TestEnvironment()
 {
-    UserDefaults::standard().synchronize(); // no write may still be landing in the folder as it goes
+    // No write may still be landing in the folder as it goes.
+    UserDefaults::standard().synchronize();
+    CoverCache::finishDrawing();
     AppDelegate::shared().reset();
     Log::setSink({});
     Clock::set({});
