@@ -11,11 +11,11 @@
 #include "Termination.h"
 #include "TodaysPage.h"
 #include "UserDefaults.h"
+#include "WindowIcon.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QQmlApplicationEngine>
@@ -205,7 +205,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationDisplayName(u"The Larkwells Book"_s);
     // Matches the window to its desktop entry (packaging/), which names the icon.
     QGuiApplication::setDesktopFileName(u"org.larkwells.Book"_s);
-    QGuiApplication::setWindowIcon(QIcon(u":/bundle/Icon.svg"_s));
+    QGuiApplication::setWindowIcon(windowIcon(u":/bundle/Icon.svg"_s));
 
     const bool testing = parser.isSet(commandLine.selfTest);
     SelfTest::Run selfTestRun;

@@ -118,12 +118,14 @@ bool CoverCache::draw(const QString &vectorCover, const QString &path, QSize pix
 
 void CoverCache::drawAhead(QSize pixelSize, qreal scale)
 {
-    const QString file = vectorCover();
     const QString target = path(pixelSize, scale);
     const std::lock_guard lock(drawingLock);
     Drawing &ahead = drawing();
-    // without a cover in the bundle there is nothing to draw ahead
-    if (pixelSize.isEmpty() || file.isEmpty() || ahead.path == target || QFile::exists(target))
+    if (pixelSize.isEmpty() || ahead.path == target || QFile::exists(target))
+        return;
+    // Looked up only now: a kept picture leaves the bundle's cover untouched, unread and unmapped.
+    const QString file = vectorCover();
+    if (file.isEmpty()) // without a cover in the bundle there is nothing to draw ahead
         return;
     auto drawn = std::make_shared<std::promise<QImage>>();
     ahead.shown = std::make_shared<std::promise<void>>();

@@ -17,6 +17,7 @@ list(APPEND LARKWELLS_SOURCES
     platform/UserDefaults.h platform/UserDefaults.cpp
     platform/Notifications.h platform/Notifications.cpp
     platform/UserServices.h platform/UserServices.cpp
+    platform/WindowIcon.h platform/WindowIcon.cpp
 )
 list(APPEND LARKWELLS_QML
     platform/AlertDialog.qml

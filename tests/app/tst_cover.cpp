@@ -5,6 +5,7 @@
 #include "ReviewPrompt.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
+#include "WindowIcon.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -223,6 +224,20 @@ private Q_SLOTS:
         QCOMPARE(provider.requestImage(url.fileName(), &served, size).size(), size);
         QCOMPARE(served, size);
         QCOMPARE(CoverCache::read(file).size(), size); // kept again for the next launch
+    }
+
+    // The window icon's file is read when a picture of it is asked for, not when it is set: a
+    // file that only appears later is the one drawn.
+    void windowIconReadWhenDrawn()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"Icon.svg"_s);
+        const QIcon icon = windowIcon(file);
+        QVERIFY(writeFile(file, R"(<svg xmlns="http://www.w3.org/2000/svg" width="48" height="48">)"
+                                R"(<rect width="48" height="48" fill="#336699"/></svg>)"));
+        const QImage drawn = icon.pixmap(QSize(32, 32)).toImage();
+        QCOMPARE(drawn.size(), QSize(32, 32));
+        QCOMPARE(drawn.pixelColor(16, 16), QColor(u"#336699"_s));
     }
 };
 
