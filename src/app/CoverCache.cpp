@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstring>
 #include <future>
+#include <memory>
 #include <mutex>
 #ifdef Q_OS_LINUX
 #include <sys/resource.h>
@@ -188,17 +189,25 @@ QUrl CoverCache::url(const QString &path)
 
 QImage CoverCache::read(const QString &path)
 {
-    QFile file(path);
+    auto file = std::make_unique<QFile>(path);
     char header[headerSize];
-    if (!file.open(QIODevice::ReadOnly) || file.read(header, headerSize) != headerSize || memcmp(header, mark, sizeof mark) != 0)
+    if (!file->open(QIODevice::ReadOnly) || file->read(header, headerSize) != headerSize || memcmp(header, mark, sizeof mark) != 0)
         return {};
     qint32 size[2];
     memcpy(size, header + sizeof mark, sizeof size);
-    if (size[0] <= 0 || size[1] <= 0 || file.size() != headerSize + qint64(size[0]) * size[1] * 4)
+    const qint64 bytes = qint64(size[0]) * size[1] * 4;
+    if (size[0] <= 0 || size[1] <= 0 || file->size() != headerSize + bytes)
         return {};
-    QImage image(size[0], size[1], QImage::Format_RGB32);
-    if (image.isNull() || file.read(reinterpret_cast<char *>(image.bits()), image.sizeInBytes()) != image.sizeInBytes())
+    // Shown where it lies, mapped rather than read: nothing is copied, and the pixels stay the
+    // file's, for the system to drop and read again. Kept files are replaced, never rewritten,
+    // so a mapped picture never changes under the screen.
+    const uchar *pixels = file->map(headerSize, bytes);
+    if (!pixels)
         return {};
+    const QImage image(pixels, size[0], size[1], size[0] * 4, QImage::Format_RGB32,
+                       [](void *mapped) { delete static_cast<QFile *>(mapped); }, file.get());
+    if (!image.isNull())
+        file.release(); // the image unmaps and closes it when its last copy goes
     return image;
 }
 

@@ -147,6 +147,11 @@ private Q_SLOTS:
             QCOMPARE(url, drawn);
             QCOMPARE(QFileInfo(file(url)).lastModified(), drawnAt); // read back, not drawn again
         }
+        // A picture on screen outlives its file, removed once a larger window keeps another.
+        const QRgb sky = picture.pixel(second.width() / 2, 2);
+        launch(second * 2);
+        QVERIFY(!QFile::exists(file(url)));
+        QCOMPARE(picture.pixel(second.width() / 2, 2), sky);
     }
 
     void pictureCoversTheWindow_data()
