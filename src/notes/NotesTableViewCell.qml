@@ -25,16 +25,9 @@ SwipeDelegate {
 
     ListView.onPooled: swipe.close()
 
-    background: CellBackground {
+    background: CellCard {
         pressed: cell.down
-        Rectangle {
-            anchors.fill: parent
-            radius: Theme.cornerRadius
-            color: "transparent"
-            border.width: Theme.focusRingWidth + 1
-            border.color: Theme.tint
-            visible: cell.ListView.isCurrentItem && cell.ListView.view.activeFocus
-        }
+        ringed: cell.ListView.isCurrentItem && cell.ListView.view.activeFocus
     }
 
     contentItem: ColumnLayout {

@@ -3,8 +3,8 @@
 #include <QQuickPaintedItem>
 #include <QUrl>
 
-// The look every list cell shares: a rounded, black-bordered card in the list colour, or with
-// the list wallpaper cropped to fill it (clipped to the rounded corners) when one is set.
+// A list card under its wallpaper: the picture cropped to fill the card, clipped to its rounded
+// corners, darker while pressed, with the card's border over it.
 class CellBackground : public QQuickPaintedItem
 {
     Q_OBJECT

@@ -15,17 +15,10 @@ ItemDelegate {
     topInset: 2
     bottomInset: 2
     focusPolicy: Qt.NoFocus
-    background: CellBackground {
+    background: CellCard {
         wallpaper: cell.wallpaper
         pressed: cell.down
-        Rectangle {
-            anchors.fill: parent
-            radius: Theme.cornerRadius
-            color: "transparent"
-            border.width: Theme.focusRingWidth + 1
-            border.color: Theme.tint
-            visible: cell.ListView.isCurrentItem && cell.ListView.view.activeFocus
-        }
+        ringed: cell.ListView.isCurrentItem && cell.ListView.view.activeFocus
     }
     Accessible.ignored: !visible
     Accessible.onPressAction: if (cell.visible && cell.enabled) cell.clicked()

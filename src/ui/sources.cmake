@@ -10,6 +10,7 @@ list(APPEND LARKWELLS_SOURCES
 list(APPEND LARKWELLS_QML
     ui/BarButton.qml
     ui/BottomBar.qml
+    ui/CellCard.qml
     ui/FavoriteBox.qml
     ui/FontSizeStepper.qml
     ui/Heading.qml

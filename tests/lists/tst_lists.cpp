@@ -1,3 +1,4 @@
+#include "Bundle.h"
 #include "Clock.h"
 #include "MainTableViewController.h"
 #include "Navigator.h"
@@ -8,8 +9,10 @@
 #include "SpecialDaysTableViewController.h"
 #include "TestSupport.h"
 #include "UserDefaults.h"
+#include "Wallpapers.h"
 
 #include <QAbstractItemModelTester>
+#include <QImage>
 #include <QAccessible>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -439,6 +442,29 @@ private Q_SLOTS:
         QCOMPARE(chosen, (QStringList{u"PM|Michaelmas|Angels\nkeep watch"_s, u"AM||"_s}));
         QCOMPARE(segues.size(), 2);
         QCOMPARE(segues.first().first().toString(), u"SpecialDayReaderSegue"_s);
+    }
+
+    // A row's card shows the list wallpaper when one is given, and the plain card colour again
+    // when it is taken away (the card keeps no stale picture), pressed or not.
+    void cardWallpaperComesAndGoes()
+    {
+        QQmlEngine engine;
+        const auto window = qmlWindow(engine, u"Window { width: 300; height: 80; visible: true\n"
+                                              "CellCard { objectName: \"card\"; anchors.fill: parent } }"_s);
+        QVERIFY(window);
+        QQuickItem *card = findItem(window->contentItem(), u"card"_s);
+        QVERIFY(card);
+        const auto middle = [&] { return window->grabWindow().pixel(150, 40); };
+        const auto cardColour = [card] { return card->property("color").value<QColor>().rgb(); };
+        QCOMPARE(middle(), cardColour());
+        const QUrl wallpaper = Bundle::main().imageUrl(Wallpapers::PMWallpaper().first());
+        QStringList shown;
+        for (const auto &[url, pressed] : {std::pair{wallpaper, false}, {QUrl(), false}, {wallpaper, true}, {QUrl(), true}}) {
+            card->setProperty("wallpaper", url);
+            card->setProperty("pressed", pressed);
+            shown << (middle() == cardColour() ? u"card colour"_s : u"picture"_s);
+        }
+        QCOMPARE(shown, (QStringList{u"picture"_s, u"card colour"_s, u"picture"_s, u"card colour"_s}));
     }
 
     void specialDaysWriterRoundTrips()
