@@ -43,14 +43,6 @@ Page {
         color: "black"
         font.pixelSize: 17
     }
-    component WallpaperSwitch: Switch {
-        id: toggle
-        Layout.fillWidth: true
-        font.pixelSize: 16
-        Accessible.name: text
-        Accessible.onPressAction: if (toggle.visible && toggle.enabled) { toggle.toggle(); toggle.toggled() }
-        Accessible.onToggleAction: if (toggle.visible && toggle.enabled) { toggle.toggle(); toggle.toggled() }
-    }
     component WallpaperButton: Button {
         id: button
         Layout.fillWidth: true
@@ -169,15 +161,17 @@ Page {
                     Accessible.name: qsTr("Chosen colour: %1").arg(controller.colorTitles[controller.colorSegmentIndex])
                 }
             }
-            WallpaperSwitch {
+            SettingSwitch {
                 objectName: "PoemViewerWallpaperSwitch"
+                Layout.fillWidth: true
                 text: qsTr("Wallpaper behind pages")
                 checked: controller.useWallpaper === 1
                 onToggled: controller.PoemViewSwitchChanged(checked)
             }
 
-            WallpaperSwitch {
+            SettingSwitch {
                 objectName: "NightReadingSwitch"
+                Layout.fillWidth: true
                 text: qsTr("Night Reading")
                 checked: controller.NightReading
                 onToggled: controller.NightReadingSwitchChanged(checked)
@@ -231,8 +225,9 @@ Page {
                     onStepped: value => controller.ListStepperChanged(value)
                 }
             }
-            WallpaperSwitch {
+            SettingSwitch {
                 objectName: "ListViewerWallpaperSwitch"
+                Layout.fillWidth: true
                 text: qsTr("Wallpaper behind list rows")
                 checked: controller.ListWallpaperVisible === 1
                 onToggled: controller.ListViewerSwitchChanged(checked)

@@ -19,16 +19,12 @@ ColumnLayout {
         required property bool on
         required property string time
         spacing: 12
-        Switch {
+        SettingSwitch {
             id: toggle
             objectName: row.objectName + "Switch"
             Layout.fillWidth: true
             text: row.title
             checked: row.on
-            font.pixelSize: 16
-            Accessible.name: text
-            Accessible.onPressAction: if (toggle.visible && toggle.enabled) { toggle.toggle(); toggle.toggled() }
-            Accessible.onToggleAction: if (toggle.visible && toggle.enabled) { toggle.toggle(); toggle.toggled() }
             onToggled: reminders.ReminderSwitchChanged(row.kind, checked)
         }
         TextField {

@@ -20,6 +20,7 @@ list(APPEND LARKWELLS_QML
     settings/ListWallpaperTableView.qml
     settings/SettingsView.qml
     settings/ReminderRows.qml
+    settings/SettingSwitch.qml
 )
 
 # The product's links, shown by `larkwells --version`.

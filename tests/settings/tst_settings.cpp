@@ -336,6 +336,29 @@ private Q_SLOTS:
         QVERIFY(!findItem(waitForItem(window, u"scroller"_s), u"img"_s)->property("source").toUrl().isEmpty()); // the switch
     }
 
+    // The handle shows off and on, on a renderer without shaders too: the reader sees the state,
+    // not only the track's colour.
+    void switchHandleShows()
+    {
+        QQmlEngine engine;
+        const auto window = qmlWindow(engine, u"Window { width: 200; height: 60; visible: true; color: \"white\"\n"
+                                              "SettingSwitch { objectName: \"toggle\"; text: \"Night Reading\" } }"_s);
+        QVERIFY(window);
+        QQuickItem *toggle = findItem(window->contentItem(), u"toggle"_s);
+        QVERIFY(toggle);
+        const auto *indicator = toggle->property("indicator").value<QQuickItem *>();
+        QVERIFY(indicator);
+        for (const bool checked : {false, true}) {
+            toggle->setProperty("checked", checked);
+            QTest::qWait(400); // the handle slides
+            // The handle's middle, 10 pixels in from the end it rests at.
+            const QPointF rest = indicator->mapToScene(QPointF(checked ? indicator->width() - 10 : 10, indicator->height() / 2));
+            const QPointF track = indicator->mapToScene(QPointF(checked ? 3 : indicator->width() - 3, indicator->height() / 2));
+            const QImage shot = window->grabWindow();
+            QVERIFY2(shot.pixel(rest.toPoint()) != shot.pixel(track.toPoint()), checked ? "on" : "off");
+        }
+    }
+
     void wallpaperRowsToggleByTouchAndKeyboard()
     {
         TestEnvironment environment;
