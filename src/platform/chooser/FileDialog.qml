@@ -141,6 +141,13 @@ DialogsImpl.FileDialogImpl {
                 pressed: nameFiltersComboBox.down
                 focusRing: nameFiltersComboBox.visualFocus
             }
+            // A plain card under the open list: the style's is drawn through a shadow layer that
+            // the software renderer leaves blank, and the choices showed over the chooser.
+            popup.background: Rectangle {
+                radius: 2
+                color: "white"
+                border.color: Theme.quietText
+            }
             Layout.row: 1
             Layout.column: 1
             Layout.topMargin: fileNameTextField.visible ? 0 : 12
