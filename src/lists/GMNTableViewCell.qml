@@ -18,6 +18,10 @@ ListCell {
 
     Accessible.name: dateText + ", " + pageText.trim() + (favoriteChecked ? ", " + qsTr("favorite") : "")
     ListView.onIsCurrentItemChanged: if (!ListView.isCurrentItem && box.activeFocus) ListView.view.forceActiveFocus()
+    // Between leaving the view and coming back as another page's row.
+    property bool pooled: false
+    ListView.onPooled: pooled = true
+    ListView.onReused: pooled = false
 
     // Plain positioning rather than layouts: rows are made as fast as a flick brings them. The
     // favourite box sits in the right padding, beside the texts; texts shorter than the row sit
@@ -57,6 +61,7 @@ ListCell {
         // move on from a row whose box has the keyboard, the list takes it back.
         activeFocusOnTab: interactive && (cell.ListView.isCurrentItem || box.activeFocus)
         checked: cell.favoriteChecked
+        animates: !cell.pooled
         fontFamily: cell.fontName
         fontSize: Math.min(cell.fontSize, 15)
         onValueChanged: checkState => cell.favoriteChanged(checkState)

@@ -15,10 +15,14 @@ FocusScope {
     // A tap on a box that only shows the mark (a list row opens instead).
     signal passiveTap()
 
-    // Shows this mark (animated once shown); for rows that follow their page.
+    // Shows this mark, drawn in once the box is made; for rows that follow their page.
     property bool checked: false
-    onCheckedChanged: box.setCheckState(checked ? 1 : 0, true)
-    Component.onCompleted: if (checked) box.setCheckState(1, false)
+    // Whether a change of `checked` is drawn in; a list row coming into view shows its mark at once.
+    property bool animates: true
+    // Set once made: a box shows the mark it is made with at once.
+    property bool made: false
+    onCheckedChanged: box.setCheckState(checked ? 1 : 0, animates && made)
+    Component.onCompleted: made = true
 
     function setCheckState(state: int, animated: bool) { box.setCheckState(state, animated) }
     function userToggle() {

@@ -20,6 +20,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -442,6 +444,57 @@ private Q_SLOTS:
         QCOMPARE(chosen, (QStringList{u"PM|Michaelmas|Angels\nkeep watch"_s, u"AM||"_s}));
         QCOMPARE(segues.size(), 2);
         QCOMPARE(segues.first().first().toString(), u"SpecialDayReaderSegue"_s);
+    }
+
+    // A row brought into view shows its mark at once: a reused row does not draw its favourite in
+    // as though it had just been ticked.
+    void rowsComingIntoViewShowTheirMarkAtOnce()
+    {
+        TestEnvironment environment;
+        QStringList rows;
+        for (int page = 1; page <= 200; ++page) {
+            const QDate day = QDate(2024, 1, 1).addDays((page - 1) / 2);
+            rows.append(u"%1|%2|%3|%4|%5|%6|A page"_s.arg(QLocale::c().toString(day, u"MMMM d"_s), page % 2 ? u"AM"_s : u"PM"_s)
+                            .arg(day.month()).arg(day.day()).arg(page).arg(page == 1 || page == 149 ? u"T"_s : u"F"_s));
+        }
+        insertPages(rows);
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = openFromCover(engine, u"GoodMorningButton"_s, u"MainTableView"_s);
+        QVERIFY(window);
+        QQuickItem *table = waitForItem(window, u"table"_s);
+        QTRY_VERIFY(findVisibleItem(window, u"row-0"_s));
+        // Every box takes for ever over a change it draws: a mark drawn in would never show.
+        const std::function<void(QQuickItem *)> slow = [&](QQuickItem *item) {
+            if (item->objectName() == u"FavoriteCheckBox"_s)
+                item->setProperty("animationDuration", 1000.0);
+            for (QQuickItem *child : item->childItems())
+                slow(child);
+        };
+        slow(table);
+        // The pixels of a row's box in the tint's blue: a ticked box is ringed and marked in it.
+        const auto blueOf = [&](const QString &row) {
+            QQuickItem *box = findItem(findVisibleItem(window, row), u"FavoriteCheckBox"_s);
+            const QImage shot = window->grabWindow().copy(box->mapRectToScene(box->boundingRect()).toAlignedRect());
+            int blue = 0;
+            for (int y = 0; y < shot.height(); ++y)
+                for (int x = 0; x < shot.width(); ++x)
+                    blue += qBlue(shot.pixel(x, y)) > qRed(shot.pixel(x, y)) + 80;
+            return blue;
+        };
+        const int marked = blueOf(u"row-0"_s);
+        QVERIFY(marked > 50);
+        // Scrolled as a flick does, a quarter of the list a frame, to page 149.
+        const auto inView = [&] {
+            QQuickItem *row = findVisibleItem(window, u"row-74"_s);
+            return row && row->mapRectToItem(table, row->boundingRect()).bottom() <= table->height();
+        };
+        for (int step = 0; step < 100 && !inView(); ++step) {
+            table->setProperty("contentY", table->property("contentY").toReal() + table->height() / 4);
+            QTest::qWait(20);
+        }
+        QVERIFY(inView());
+        QVERIFY(findVisibleItem(window, u"row-74"_s)->property("favoriteChecked").toBool());
+        QVERIFY2(blueOf(u"row-74"_s) > marked / 2, "the mark of a row scrolled into view is still to be drawn");
     }
 
     // A row's card shows the list wallpaper when one is given, and the plain card colour again
