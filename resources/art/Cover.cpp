@@ -20,8 +20,9 @@ QString fillPath(const QPainterPath &path, const QString &fill, double opacity =
     return s + QStringLiteral("/>\n");
 }
 
-// A ridge line closed down to the bottom of the picture.
-QPainterPath ridge(uint64_t seed, double base, double amplitude, double waves)
+// A ridge line closed down to `bottom`: far enough to pass under the next hill's lowest dip.
+// Closed any lower, the renderer fills rows the nearer hills cover again.
+QPainterPath ridge(uint64_t seed, double base, double amplitude, double waves, double bottom = H + 10)
 {
     QList<QPointF> pts;
     Random r(seed);
@@ -34,8 +35,8 @@ QPainterPath ridge(uint64_t seed, double base, double amplitude, double waves)
         pts.append({x, y});
     }
     QPainterPath path = smoothThrough(pts);
-    path.lineTo(W + 60, H + 10);
-    path.lineTo(-60, H + 10);
+    path.lineTo(W + 60, bottom);
+    path.lineTo(-60, bottom);
     path.closeSubpath();
     return path;
 }
@@ -121,13 +122,20 @@ bool writeCover(const QString &directory)
         QStringLiteral("sky"), 0, 0, 0, horizon,
         {{0, edge}, {0.3, QColor(0x1c, 0x2f, 0x55)}, {0.55, QColor(0x3a, 0x49, 0x78)},
          {0.78, QColor(0x74, 0x68, 0x92)}, {1, QColor(0xb4, 0x88, 0x9a)}});
-    svg.add(QStringLiteral("<rect width=\"%1\" height=\"%2\" fill=\"%3\"/>\n").arg(num(W), num(H), sky));
+    // The sky and its glow stop where the far hills have surely begun; nothing above the glow's
+    // circle is drawn for it, as its last stop is clear.
+    const double skyBottom = horizon + 40;
+    const QPointF glowCentre(640, horizon + 20);
+    const double glowRadius = 760;
+    svg.add(QStringLiteral("<rect width=\"%1\" height=\"%2\" fill=\"%3\"/>\n").arg(num(W), num(skyBottom), sky));
     const QString glow = svg.radialGradient(
-        QStringLiteral("glow"), 640, horizon + 20, 760,
+        QStringLiteral("glow"), glowCentre.x(), glowCentre.y(), glowRadius,
         {{0, withAlpha(QColor(0xff, 0xf3, 0xcc), 1)}, {0.18, withAlpha(QColor(0xfc, 0xda, 0xa4), 0.9)},
          {0.45, withAlpha(QColor(0xf0, 0xa8, 0x90), 0.55)}, {0.75, withAlpha(QColor(0xb0, 0x84, 0xa0), 0.18)},
          {1, withAlpha(QColor(0xb0, 0x84, 0xa0), 0)}});
-    svg.add(QStringLiteral("<rect width=\"%1\" height=\"%2\" fill=\"%3\"/>\n").arg(num(W), num(horizon + 40), glow));
+    const double glowTop = glowCentre.y() - glowRadius;
+    svg.add(QStringLiteral("<rect y=\"%1\" width=\"%2\" height=\"%3\" fill=\"%4\"/>\n")
+                .arg(num(glowTop), num(W), num(skyBottom - glowTop), glow));
 
     // Stars, thinning as the sky brightens.
     for (int i = 0; i < 300; ++i) {
@@ -195,8 +203,11 @@ bool writeCover(const QString &directory)
     // The rising sun behind the far hills.
     svg.add(QStringLiteral("<circle cx=\"640\" cy=\"%1\" r=\"64\" fill=\"#fff4d4\"/>\n").arg(num(horizon - 6)));
 
-    // Hills: far and misty, the well's hill, then the dark meadow.
-    const QPainterPath far = ridge(11, horizon - 10, 34, 2.2);
+    // Hills: far and misty, the well's hill, then the dark meadow. Each ridge stays within its
+    // base line give or take its amplitude, and is closed just under the next one's lowest dip.
+    const double midBase = horizon + 70, midAmplitude = 46;
+    const double nearBase = horizon + 190, nearAmplitude = 40;
+    const QPainterPath far = ridge(11, horizon - 10, 34, 2.2, midBase + midAmplitude + 15);
     svg.add(fillPath(far, svg.linearGradient(QStringLiteral("far"), 0, horizon - 60, 0, horizon + 80,
                                               {{0, QColor(0x9a, 0x86, 0xa6)}, {1, QColor(0x6e, 0x6c, 0x92)}})));
     svg.add(QStringLiteral("<rect y=\"%1\" width=\"%2\" height=\"120\" fill=\"%3\"/>\n")
@@ -205,14 +216,14 @@ bool writeCover(const QString &directory)
                                         {{0, withAlpha(QColor(0xf7, 0xdc, 0xc6), 0)},
                                          {0.5, withAlpha(QColor(0xf7, 0xdc, 0xc6), 0.45)},
                                          {1, withAlpha(QColor(0xf7, 0xdc, 0xc6), 0)}})));
-    const QPainterPath mid = ridge(23, horizon + 70, 46, 1.6);
+    const QPainterPath mid = ridge(23, midBase, midAmplitude, 1.6, nearBase + nearAmplitude + 15);
     svg.add(fillPath(mid, svg.linearGradient(QStringLiteral("mid"), 0, horizon, 0, horizon + 240,
                                               {{0, QColor(0x3c, 0x45, 0x6c)}, {1, QColor(0x24, 0x31, 0x52)}})));
     const double wellX = 352;
     const double wellY = ridgeY(mid, wellX) + 14;
     svg.add(fillPath(well() * QTransform::fromScale(0.95, 0.95).translate(wellX / 0.95, wellY / 0.95),
                      QStringLiteral("#222c4a")));
-    const QPainterPath near = ridge(37, horizon + 190, 40, 1.2);
+    const QPainterPath near = ridge(37, nearBase, nearAmplitude, 1.2);
     svg.add(fillPath(near, svg.linearGradient(QStringLiteral("near"), 0, horizon + 140, 0, H,
                                                {{0, QColor(0x1e, 0x2b, 0x47)}, {0.45, edge}, {1, edge}})));
 
