@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The article screen: one about article in the reader's look, to read, resize, edit and share.
-Page {
+ScreenPanel {
     id: root
     objectName: "AboutEditView"
     title: controller.title

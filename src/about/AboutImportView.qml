@@ -7,7 +7,7 @@ import Larkwells
 
 // The about file screen: opens with the file picker in front; imports the picked file in place
 // of every article, or writes the articles as a file to mail.
-Page {
+ScreenPanel {
     id: root
     objectName: "AboutImportView"
     title: qsTr("About File")

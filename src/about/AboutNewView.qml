@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The new-article screen: a name and a text, saved as a new about article.
-Page {
+ScreenPanel {
     id: root
     objectName: "AboutNewView"
     title: qsTr("New Article")

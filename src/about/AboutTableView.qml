@@ -4,7 +4,7 @@ import QtQuick.Controls
 import Larkwells
 
 // The about list: the articles by name; "+" writes a new one.
-Page {
+ScreenPanel {
     id: root
     objectName: "AboutTableView"
     title: controller.title

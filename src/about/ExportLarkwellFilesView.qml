@@ -7,7 +7,7 @@ import Larkwells
 
 // The export menu: one button for each kind of update file, and the reader's own writing backed
 // up to a file or restored from one.
-Page {
+ScreenPanel {
     id: root
     objectName: "ExportLarkwellFilesView"
     title: qsTr("Update Files")

@@ -6,7 +6,7 @@ import Larkwells
 
 // Builds an update file once a visit, shows it, and saves or mails it. The special-day export
 // is this page with its own controller.
-Page {
+ScreenPanel {
     id: root
     objectName: "ExportView"
     property ExportViewController controller: ExportViewController {}

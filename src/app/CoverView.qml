@@ -4,7 +4,7 @@ import QtQuick.Controls
 import Larkwells
 
 // The cover of the book with its drop-down menu.
-Page {
+ScreenPanel {
     id: root
     objectName: "CoverView"
     title: qsTr("The Larkwells Book")

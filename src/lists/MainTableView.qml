@@ -4,7 +4,7 @@ import QtQuick.Controls
 import Larkwells
 
 // The page list: today's pages, all, morning, night or favourite pages.
-Page {
+ScreenPanel {
     id: root
     objectName: "MainTableView"
     // The segment is the bar's title; a screen reader names the screen by it.

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The search list: every page, narrowed as the user types a date or words of a page.
-Page {
+ScreenPanel {
     id: root
     objectName: "SearchTableView"
     // The segment is the bar's title; a screen reader names the screen by it.

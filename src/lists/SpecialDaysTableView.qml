@@ -4,7 +4,7 @@ import QtQuick.Controls
 import Larkwells
 
 // The special days: the morning poems, then the night poems, each block under its heading.
-Page {
+ScreenPanel {
     id: root
     objectName: "SpecialDaysTableView"
     title: controller.title

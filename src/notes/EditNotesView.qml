@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The note editor: subject, date and text, with the text's alignment chosen in a segment.
-Page {
+ScreenPanel {
     id: root
     objectName: "EditNotesView"
     title: qsTr("Note")

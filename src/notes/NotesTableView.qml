@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The notes list: sorted and searched by subject, date or note text.
-Page {
+ScreenPanel {
     id: root
     objectName: "NotesTableView"
     title: "Notes"

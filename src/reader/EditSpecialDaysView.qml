@@ -6,7 +6,7 @@ import Larkwells
 
 // The special-day reader: the morning or night heading, the day's name and its poem over the
 // reader's wallpaper.
-Page {
+ScreenPanel {
     id: root
     objectName: "EditSpecialDaysView"
     title: controller.title

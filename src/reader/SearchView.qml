@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The search reader: the chosen page with every match of the search text marked in yellow.
-Page {
+ScreenPanel {
     id: root
     objectName: "SearchView"
     title: controller.title

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // The page reader: heading, date and page text over the reader's wallpaper.
-Page {
+ScreenPanel {
     id: root
     objectName: "View"
     title: controller.title

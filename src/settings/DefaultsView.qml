@@ -6,7 +6,7 @@ import Larkwells
 
 // The "User Defaults" screen: fonts, sizes, text colour and wallpapers of readers and lists.
 // The font fields show each choice at once, in its face and at its size.
-Page {
+ScreenPanel {
     id: root
     objectName: "DefaultsView"
     title: controller.title

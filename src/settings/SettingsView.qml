@@ -4,7 +4,7 @@ import QtQuick.Controls
 import Larkwells
 
 // Rate and share: rate the app, share it or its web site, visit the site, send feedback.
-Page {
+ScreenPanel {
     id: root
     objectName: "SettingsView"
     title: controller.title

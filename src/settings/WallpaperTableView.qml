@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Larkwells
 
 // One wallpaper set as rows of pictures, each marked "Used" or "Not Used".
-Page {
+ScreenPanel {
     id: root
     required property WallpaperTableViewController controller
     // Names the parts of each row: "Viewer" for the reader set, "List" for the list set.

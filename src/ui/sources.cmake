@@ -19,6 +19,7 @@ list(APPEND LARKWELLS_QML
     ui/PageTurner.qml
     ui/ReadAloudButton.qml
     ui/ReaderSurface.qml
+    ui/ScreenPanel.qml
     ui/SegmentedControl.qml
     ui/TableList.qml
     ui/Theme.qml

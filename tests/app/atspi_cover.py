@@ -248,12 +248,14 @@ def note_date_as_heard(app, application):
 
 
 def wallpaper_rows_as_heard(app, application):
-    """Font fields are combo boxes carrying their family; a wallpaper row carries its state."""
+    """A screen is a panel named by its title, not a tab; font fields are combo boxes carrying
+    their family; a wallpaper row carries its state."""
     import pyatspi
     go_back(app, application)
     open_menu(app, application)
     press(named(app, "User Defaults", "push button")[0])
     wait_for(lambda: named(app, "User Defaults", "heading") and named(app, "Pages", "heading"), "the titles as headings")
+    wait_for(lambda: named(app, "User Defaults", "panel"), "the screen as a panel named by its title")
     wait_for(lambda: named(app, "Page font, Arial", "combo box"), "the page font field as a combo box")
     press(wait_for(lambda: [n for n in named(app, "List Wallpapers", "push button") if shown(n)], "List Wallpapers")[0])
     row = wait_for(lambda: named(app, "AM-36, Used", "list item"), "the first list wallpaper row")[0]

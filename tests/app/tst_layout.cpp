@@ -45,8 +45,6 @@ bool shown(const QQuickItem *item)
 
 bool isControl(QQuickItem *item)
 {
-    if (item->inherits("QQuickPage")) // a screen presents itself as a tab, but holds the controls
-        return false;
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
     return accessible && isControlRole(accessible->role());
 }

@@ -1,0 +1,30 @@
+import QtQuick
+import QtQuick.Controls
+
+// A screen of the book: its bar on top, its content, and perhaps a bar below, as a page lays
+// them out. A page is heard by a screen reader as a tab of some tab list, and no setting of
+// its role survives accessibility waking up; a screen is a panel named by its title.
+Pane {
+    id: screen
+    property string title
+    property Item header
+    property Item footer
+
+    padding: 0
+    topPadding: screen.header && screen.header.visible ? screen.header.height : 0
+    bottomPadding: screen.footer && screen.footer.visible ? screen.footer.height : 0
+    Accessible.name: screen.title
+
+    onHeaderChanged: screen.place(screen.header, () => 0)
+    onFooterChanged: screen.place(screen.footer, () => screen.height - screen.footer.height)
+
+    // Over the content's edge, across the whole screen.
+    function place(bar: Item, y) {
+        if (!bar)
+            return
+        bar.parent = screen
+        bar.z = 1
+        bar.width = Qt.binding(() => screen.width)
+        bar.y = Qt.binding(y)
+    }
+}
