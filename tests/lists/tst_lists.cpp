@@ -475,11 +475,7 @@ private Q_SLOTS:
         const auto blueOf = [&](const QString &row) {
             QQuickItem *box = findItem(findVisibleItem(window, row), u"FavoriteCheckBox"_s);
             const QImage shot = window->grabWindow().copy(box->mapRectToScene(box->boundingRect()).toAlignedRect());
-            int blue = 0;
-            for (int y = 0; y < shot.height(); ++y)
-                for (int x = 0; x < shot.width(); ++x)
-                    blue += qBlue(shot.pixel(x, y)) > qRed(shot.pixel(x, y)) + 80;
-            return blue;
+            return countPixels(shot, [](QRgb pixel) { return qBlue(pixel) > qRed(pixel) + 80; });
         };
         const int marked = blueOf(u"row-0"_s);
         QVERIFY(marked > 50);

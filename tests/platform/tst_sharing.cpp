@@ -126,21 +126,28 @@ private Q_SLOTS:
 
     // An alert raised while its window is still being sized opens without a warning, its title
     // whole (the style's title, cut short on a phone, changed height while the dialog was sizing
-    // itself to it: a binding loop).
-    void alertOpensWhileItsWindowIsSized_data()
+    // itself to it: a binding loop). Return answers an alert with one button; with a choice it
+    // picks nothing by itself.
+    void alertInItsOwnWindow_data()
     {
         QTest::addColumn<int>("width");
-        QTest::newRow("phone") << 360;
-        QTest::newRow("tablet") << 1024;
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<bool>("answered");
+        QTest::newRow("phone, one button") << 360 << QStringList{u"Ok"_s} << true;
+        QTest::newRow("tablet, one button") << 1024 << QStringList{u"Ok"_s} << true;
+        QTest::newRow("phone, a choice") << 360 << QStringList{u"Discard"_s, u"Keep Editing"_s} << false;
     }
 
-    void alertOpensWhileItsWindowIsSized()
+    void alertInItsOwnWindow()
     {
         QFETCH(int, width);
+        QFETCH(QStringList, buttons);
+        QFETCH(bool, answered);
         TestEnvironment environment;
+        int chosen = -1;
         Alerts::shared().present({u"Initial Setup Recomendations?"_s,
                                   u"It's recommended that you go to the User Defaults Menu and turn on wallpapers."_s,
-                                  {u"Ok"_s}, {}});
+                                  buttons, [&](int button) { chosen = button; }});
         QQmlEngine engine;
         const auto window = qmlWindow(engine, alertWindowBody.arg(width));
         QVERIFY(window);
@@ -150,31 +157,14 @@ private Q_SLOTS:
         QVERIFY(title);
         QCOMPARE(title->property("text").toString(), u"Initial Setup Recomendations?"_s);
         QVERIFY(!title->property("truncated").toBool());
-    }
 
-    // Return answers an alert with one button; with a choice it picks nothing by itself.
-    void returnAnswersAnAlertWithOneButton_data()
-    {
-        QTest::addColumn<QStringList>("buttons");
-        QTest::addColumn<bool>("answered");
-        QTest::newRow("one") << QStringList{u"Ok"_s} << true;
-        QTest::newRow("a choice") << QStringList{u"Discard"_s, u"Keep Editing"_s} << false;
-    }
-
-    void returnAnswersAnAlertWithOneButton()
-    {
-        QFETCH(QStringList, buttons);
-        QFETCH(bool, answered);
-        TestEnvironment environment;
-        int chosen = -1;
-        Alerts::shared().present({u"Title"_s, u"Message"_s, buttons, [&](int button) { chosen = button; }});
-        QQmlEngine engine;
-        const auto window = qmlWindow(engine, alertWindowBody.arg(360));
-        QVERIFY(window);
-        QTRY_VERIFY(window->findChild<QObject *>(u"alertDialog"_s)->property("opened").toBool());
         QTest::keyClick(window.get(), Qt::Key_Return);
-        QTest::qWait(50);
-        QCOMPARE(chosen, answered ? 0 : -1);
+        if (answered) {
+            QTRY_COMPARE(chosen, 0);
+        } else {
+            QTest::qWait(50); // a chance to answer wrongly
+            QCOMPARE(chosen, -1);
+        }
         QCOMPARE(Alerts::shared().showing(), !answered);
     }
 

@@ -350,12 +350,14 @@ private Q_SLOTS:
         QVERIFY(indicator);
         for (const bool checked : {false, true}) {
             toggle->setProperty("checked", checked);
-            QTest::qWait(400); // the handle slides
-            // The handle's middle, 10 pixels in from the end it rests at.
+            // The handle's middle, 10 pixels in from the end it rests at, once it has slid there.
             const QPointF rest = indicator->mapToScene(QPointF(checked ? indicator->width() - 10 : 10, indicator->height() / 2));
             const QPointF track = indicator->mapToScene(QPointF(checked ? 3 : indicator->width() - 3, indicator->height() / 2));
-            const QImage shot = window->grabWindow();
-            QVERIFY2(shot.pixel(rest.toPoint()) != shot.pixel(track.toPoint()), checked ? "on" : "off");
+            const auto handleShows = [&] {
+                const QImage shot = window->grabWindow();
+                return shot.pixel(rest.toPoint()) != shot.pixel(track.toPoint());
+            };
+            QTRY_VERIFY2(handleShows(), checked ? "on" : "off");
         }
     }
 
