@@ -339,7 +339,8 @@ private Q_SLOTS:
         QVERIFY(clickTo(window, u"backButton"_s, u"MainTableView"_s));
         QTRY_VERIFY(!first);
 
-        QTest::qWait(200); // the next reader is built in the frames that follow
+        // The next reader is built in the frames that follow; the tap takes that one.
+        QTRY_VERIFY(window->property("aheadScreen").value<QQuickItem *>());
         QVERIFY(clickTo(window, u"row-1"_s, u"View"_s));
         QCOMPARE(currentScreen(window)->property("title").toString(), u"Good Night"_s);
         QCOMPARE(waitForItem(window, u"PoemPrayerTextView"_s)->property("text").toString(), Selection::shared().selectedPoemPrayer());
