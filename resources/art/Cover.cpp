@@ -122,8 +122,8 @@ bool writeCover(const QString &directory)
         QStringLiteral("sky"), 0, 0, 0, horizon,
         {{0, edge}, {0.3, QColor(0x1c, 0x2f, 0x55)}, {0.55, QColor(0x3a, 0x49, 0x78)},
          {0.78, QColor(0x74, 0x68, 0x92)}, {1, QColor(0xb4, 0x88, 0x9a)}});
-    // The sky and its glow stop where the far hills have surely begun; nothing above the glow's
-    // circle is drawn for it, as its last stop is clear.
+    // The sky and its glow stop below the far hills' lowest dip (horizon + 24), where the hills
+    // cover them; nothing above the glow's circle is drawn for it, as its last stop is clear.
     const double skyBottom = horizon + 40;
     const QPointF glowCentre(640, horizon + 20);
     const double glowRadius = 760;
