@@ -15,16 +15,16 @@ Pane {
     bottomPadding: screen.footer && screen.footer.visible ? screen.footer.height : 0
     Accessible.name: screen.title
 
-    onHeaderChanged: screen.place(screen.header, () => 0)
-    onFooterChanged: screen.place(screen.footer, () => screen.height - screen.footer.height)
+    onHeaderChanged: screen.place(screen.header, false)
+    onFooterChanged: screen.place(screen.footer, true)
 
     // Over the content's edge, across the whole screen.
-    function place(bar: Item, y) {
+    function place(bar: Item, atBottom: bool) {
         if (!bar)
             return
         bar.parent = screen
         bar.z = 1
         bar.width = Qt.binding(() => screen.width)
-        bar.y = Qt.binding(y)
+        bar.y = Qt.binding(() => atBottom ? screen.height - bar.height : 0)
     }
 }
