@@ -9,14 +9,21 @@ Pane {
     property string title
     property Item header
     property Item footer
+    property bool completed: false
 
     padding: 0
     topPadding: screen.header && screen.header.visible ? screen.header.height : 0
     bottomPadding: screen.footer && screen.footer.visible ? screen.footer.height : 0
     Accessible.name: screen.title
 
+    // In reading order, which is also the keyboard's and the screen reader's: the top bar, the
+    // content, then the bottom bar, taken in only once the content is in.
     onHeaderChanged: screen.place(screen.header, false)
-    onFooterChanged: screen.place(screen.footer, true)
+    onFooterChanged: if (screen.completed) screen.place(screen.footer, true)
+    Component.onCompleted: {
+        screen.completed = true
+        screen.place(screen.footer, true)
+    }
 
     // Over the content's edge, across the whole screen.
     function place(bar: Item, atBottom: bool) {

@@ -10,6 +10,7 @@
 
 #include <QPointer>
 #include <QQmlApplicationEngine>
+#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickTextDocument>
 #include <QQuickWindow>
@@ -377,6 +378,17 @@ private Q_SLOTS:
         QTRY_COMPARE(topPage(window), u"View"_s);
         QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
         QVERIFY(text->property("text").toString().contains(u"Morning 81"_s));
+        // Heard as the eye reads it: the top bar first, the bottom bar last.
+        QQuickItem *reader = currentScreen(window);
+        QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(reader);
+        QVERIFY(heard && heard->childCount() > 2);
+        const auto inBar = [&](int child, const char *bar) {
+            auto *item = qobject_cast<QQuickItem *>(heard->child(child)->object());
+            auto *holder = reader->property(bar).value<QQuickItem *>();
+            return item && holder && (item == holder || holder->isAncestorOf(item));
+        };
+        QVERIFY(inBar(0, "header"));
+        QVERIFY(inBar(heard->childCount() - 1, "footer"));
         QVERIFY(tabUntil(window, [&](QQuickItem *item) { return item == text; }));
         QTest::keyClick(window, Qt::Key_Tab);
         QVERIFY(window->activeFocusItem() != text); // Tab is not typed into the text
