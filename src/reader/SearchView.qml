@@ -43,7 +43,8 @@ ScreenPanel {
         }
     }
 
-    background: Rectangle { color: Theme.readerBackground }
+    // The text lies clear over the screen's own white, not the other readers' grey.
+    background: Rectangle { color: "white" }
 
     ReaderSurface {
         id: surface
@@ -51,6 +52,8 @@ ScreenPanel {
         anchors.fill: parent
         appearance: controller.appearance
         accessibleName: controller.title
+        // On a phone the wallpaper stops 25 points short of the text's bottom.
+        pictureShortfall: controller.deviceid === 1 ? 25 : 0
         readOnly: true
         textFormat: TextEdit.RichText
         text: controller.PoemPrayerText

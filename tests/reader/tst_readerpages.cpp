@@ -108,6 +108,15 @@ bool tabUntil(QQuickWindow *window, const std::function<bool(QQuickItem *)> &rea
     return false;
 }
 
+// How far the reader's wallpaper reaches past the text's right edge, and stops short of its bottom.
+QSizeF pictureOverhang(QQuickWindow *window)
+{
+    QQuickItem *surface = findVisibleItem(window, u"scroller"_s);
+    QQuickItem *picture = findItem(surface, u"img"_s);
+    return {picture->width() - surface->property("contentWidth").toDouble(),
+            surface->property("contentHeight").toDouble() - picture->height()};
+}
+
 bool isA(QQuickItem *item, const char *qmlType)
 {
     return QString::fromLatin1(item->metaObject()->className()).startsWith(QLatin1StringView(qmlType));
@@ -220,6 +229,7 @@ private Q_SLOTS:
         QTRY_COMPARE(markedFragments(*text->property("textDocument").value<QQuickTextDocument *>()->textDocument()),
                      QStringList{u"lane"_s});
         QTRY_VERIFY(findVisibleItem(window, u"scroller"_s)->property("contentY").toDouble() > 500);
+        QCOMPARE(pictureOverhang(window), QSizeF(0, 25)); // framed as on a phone
         QVERIFY(!findVisibleItem(window, u"PreviousPageButton"_s) && !findVisibleItem(window, u"NextPageButton"_s));
         QTest::keyClick(window, Qt::Key_Left);
         QTest::qWait(100);
@@ -469,6 +479,7 @@ private Q_SLOTS:
         QQuickItem *text = waitForItem(window, u"PoemPrayerTextView"_s);
         QVERIFY(text);
         QCOMPARE(text->property("text").toString(), u"Good Night\n\nCandlemas\n\nLight kept\nfor the dark"_s);
+        QCOMPARE(pictureOverhang(window), QSizeF(100, 25)); // framed as on a phone
 
         // Sharing hands over the text as it stands, edits included, with no text-message gate.
         Sharing::shared().setCanSendTextForTesting(false);
