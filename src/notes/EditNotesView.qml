@@ -146,6 +146,9 @@ ScreenPanel {
         id: picker
         objectName: "datePickerView"
         title: qsTr("Date")
+        // Docked as a keyboard is: the bar's Save and Back, and the fields, take a tap at once
+        // (closing the picker as they do), where a modal picker would only close on it.
+        modal: false
         parent: Overlay.overlay
         width: parent.width
         y: parent.height - height

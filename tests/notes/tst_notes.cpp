@@ -440,8 +440,13 @@ private Q_SLOTS:
         QQuickItem *text = waitForItem(window, u"NotesTextView"_s);
         QCOMPARE(text->property("text").toString(), u"bring plums"_s);
         typeInto(window, text, u" and pears"_s);
+        // Save, tapped while the picker is still up, saves at once with the date it shows.
+        click(window, waitForItem(window, u"DateTextField"_s));
+        QTRY_VERIFY(waitForItem(window, u"monthWheel"_s) && waitForItem(window, u"monthWheel"_s)->hasActiveFocus());
+        QTest::keyClick(window, Qt::Key_Down);
         QVERIFY(clickTo(window, u"SaveButton"_s, u"NotesTableView"_s));
-        QCOMPARE(storedRows<Notes>({u"subject"_s, u"notes"_s}), QStringList{u"Picnic|bring plums and pears"_s});
+        QCOMPARE(storedRows<Notes>({u"subject"_s, u"notes"_s, u"dtstring"_s}),
+                 QStringList{u"Picnic|bring plums and pears|Saturday, April 3, 2027"_s});
 
         // Swiped left, the row offers "delete".
         row = waitForItem(window, u"row-0"_s);
