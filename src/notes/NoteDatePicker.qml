@@ -60,7 +60,7 @@ Popup {
 
     modal: true
     dim: false
-    Component.onCompleted: if (modal) ModalPopups.watch(picker)
+    Component.onCompleted: ModalPopups.watch(picker)
     padding: 0
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
     background: Rectangle {

@@ -62,19 +62,23 @@ void ModalPopups::refresh()
             accessible->setProperty("ignored", false);
     m_ignored.clear();
     m_open.removeAll(nullptr);
-    if (m_open.isEmpty())
-        return;
-    // The popup's own item is the one its overlay holds, above its content.
-    auto *item = m_open.last()->property("contentItem").value<QQuickItem *>();
-    while (item && item->parentItem() && !item->parentItem()->inherits("QQuickOverlay"))
-        item = item->parentItem();
-    if (!item || !item->window())
-        return;
-    // A popup that is no Dialog has no name of its own: it goes by its title.
-    const QString title = m_open.last()->property("title").toString();
-    if (QObject *accessible = title.isEmpty() ? nullptr : accessibleOf(item, true))
-        accessible->setProperty("name", title);
-    cover(item->window()->contentItem(), item);
+    QQuickItem *topModal = nullptr;
+    for (QObject *popup : std::as_const(m_open)) {
+        // The popup's own item is the one its overlay holds, above its content.
+        auto *item = popup->property("contentItem").value<QQuickItem *>();
+        while (item && item->parentItem() && !item->parentItem()->inherits("QQuickOverlay"))
+            item = item->parentItem();
+        if (!item || !item->window())
+            continue;
+        // A popup that is no Dialog has no name of its own: it goes by its title.
+        const QString title = popup->property("title").toString();
+        if (QObject *accessible = title.isEmpty() ? nullptr : accessibleOf(item, true))
+            accessible->setProperty("name", title);
+        if (popup->property("modal").toBool())
+            topModal = item;
+    }
+    if (topModal)
+        cover(topModal->window()->contentItem(), topModal);
 }
 
 void ModalPopups::cover(QQuickItem *item, const QQuickItem *spared)

@@ -12,7 +12,7 @@ class QQuickItem;
 // accessibility tree, and what a screen reader found there before goes dead, so it can neither
 // be read nor pressed; once the popup closes it all comes back. Nothing is disabled or hidden:
 // the screen behind keeps its look, its keyboard focus and its state. A popup with a `title`
-// is named by it.
+// is named by it, modal or not (a docked picker leaves the screen behind in reach).
 class ModalPopups : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     static ModalPopups &shared();
     static ModalPopups *create(QQmlEngine *, QJSEngine *);
 
-    // Each modal popup reports itself once made; it counts while it is visible.
+    // Each popup reports itself once made; it counts while it is visible.
     Q_INVOKABLE void watch(QObject *popup);
 
 private Q_SLOTS:
