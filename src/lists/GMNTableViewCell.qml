@@ -39,7 +39,6 @@ ListCell {
             horizontalAlignment: Text.AlignHCenter
             font.family: cell.fontName
             font.pixelSize: cell.fontSize
-            font.bold: true
             wrapMode: Text.Wrap
             Accessible.ignored: true // the row's name says it
         }
@@ -63,7 +62,7 @@ ListCell {
         checked: cell.favoriteChecked
         animates: !cell.pooled
         fontFamily: cell.fontName
-        fontSize: Math.min(cell.fontSize, 15)
+        fontSize: cell.fontSize
         onValueChanged: checkState => cell.favoriteChanged(checkState)
         onPassiveTap: cell.clicked()
     }

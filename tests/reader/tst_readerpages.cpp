@@ -8,6 +8,7 @@
 #include "TestSupport.h"
 #include "UserDefaults.h"
 
+#include <QFont>
 #include <QPointer>
 #include <QQmlApplicationEngine>
 #include <QAccessible>
@@ -452,12 +453,13 @@ private Q_SLOTS:
         QQuickItem *row = waitForItem(window, u"row-0"_s);
         QVERIFY(row);
         QTRY_COMPARE(row->width(), findVisibleItem(window, u"table"_s)->width());
-        for (const QString &name : {u"DateLabel"_s, u"PageWords"_s}) {
+        for (const QString &name : {u"DateLabel"_s, u"PageWords"_s, u"FavoriteLabel"_s}) {
             QQuickItem *label = findVisibleItem(row, name);
             QVERIFY2(label, qPrintable(name));
             const QRectF inRow = label->mapRectToItem(row, label->boundingRect());
             QVERIFY2(inRow.top() >= 0 && inRow.bottom() <= row->height() && inRow.right() <= row->width(), qPrintable(name));
             QVERIFY2(!label->property("truncated").toBool(), qPrintable(name)); // every word kept
+            QCOMPARE(label->property("font").value<QFont>().pixelSize(), 30); // every label in the list font
         }
     }
 
