@@ -35,6 +35,14 @@ ScreenPanel {
     header: NavigationBar {
         title: root.title
         onBackClicked: controller.BackButtonClicked()
+        center: SegmentedControl {
+            objectName: "segment"
+            anchors.centerIn: parent
+            model: controller.segmentTitles
+            currentIndex: controller.segmentIndex
+            segmentWidth: Math.floor(Math.min(80, (root.width - 150) / 3))
+            onActivated: index => controller.segmentedControlAction(index)
+        }
         BarButton {
             id: saveButton
             objectName: "SaveButton"
@@ -57,15 +65,6 @@ ScreenPanel {
         // The text being typed stays above an on-screen keyboard.
         anchors.bottomMargin: 12 + (root.keyboard.visible ? root.keyboard.keyboardRectangle.height : 0)
         spacing: 10
-
-        SegmentedControl {
-            objectName: "segment"
-            Layout.alignment: Qt.AlignHCenter
-            model: controller.segmentTitles
-            currentIndex: controller.segmentIndex
-            segmentWidth: 80
-            onActivated: index => controller.segmentedControlAction(index)
-        }
 
         TextField {
             id: subjectField

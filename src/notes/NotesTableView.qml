@@ -21,6 +21,14 @@ ScreenPanel {
     header: NavigationBar {
         title: root.title
         onBackClicked: root.StackView.view.pop()
+        center: SegmentedControl {
+            objectName: "segment"
+            anchors.centerIn: parent
+            model: controller.segmentTitles
+            currentIndex: controller.segmentIndex
+            segmentWidth: Math.floor(Math.min(90, (root.width - 140) / 3))
+            onActivated: index => controller.segmentedControlAction(index)
+        }
         BarButton {
             objectName: "AddButton"
             text: "+"
@@ -35,16 +43,6 @@ ScreenPanel {
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
-
-        SegmentedControl {
-            objectName: "segment"
-            Layout.alignment: Qt.AlignHCenter
-            Layout.topMargin: 8
-            model: controller.segmentTitles
-            currentIndex: controller.segmentIndex
-            segmentWidth: Math.min(90, (root.width - 32) / 3)
-            onActivated: index => controller.segmentedControlAction(index)
-        }
 
         TextField {
             id: searchField
