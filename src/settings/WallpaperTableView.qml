@@ -30,8 +30,9 @@ ScreenPanel {
             objectName: "NoneInUseLabel"
             Layout.fillWidth: true
             Layout.margins: 10
-            visible: root.controller.noneInUse
-            text: qsTr("No wallpaper of this set is in use")
+            visible: root.controller.noneInUse || root.controller.lastAloneInUse
+            text: root.controller.noneInUse ? qsTr("No wallpaper of this set is in use")
+                                            : qsTr("The last wallpaper alone is hardly ever shown: turn on another")
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             font.pixelSize: 16

@@ -87,9 +87,12 @@ void WallpaperTableViewController::CheckBoxChanged(int row, int checkState)
 
 void WallpaperTableViewController::updateNoneInUse()
 {
-    const bool none = Wallpapers::noneInUse(m_WallpaperList.names());
-    if (none == m_noneInUse)
+    const QStringList names = m_WallpaperList.names();
+    const bool none = Wallpapers::noneInUse(names);
+    const bool lastAlone = !none && Wallpapers::noneInUse(names.mid(0, names.size() - 1));
+    if (none == m_noneInUse && lastAlone == m_lastAloneInUse)
         return;
     m_noneInUse = none;
+    m_lastAloneInUse = lastAlone;
     Q_EMIT noneInUseChanged();
 }

@@ -44,12 +44,16 @@ class WallpaperTableViewController : public QObject, public QQmlParserStatus
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(WallpaperListModel *WallpaperList READ WallpaperList CONSTANT)
     Q_PROPERTY(bool noneInUse READ noneInUse NOTIFY noneInUseChanged)
+    Q_PROPERTY(bool lastAloneInUse READ lastAloneInUse NOTIFY noneInUseChanged)
 
 public:
     QString title() const { return m_title; }
     WallpaperListModel *WallpaperList() { return &m_WallpaperList; }
     // No picture of the set can be drawn, so the screens of the set show none.
     bool noneInUse() const { return m_noneInUse; }
+    // Only the last picture may be drawn: redraws never reach it, so the screens of the set show
+    // it seldom (a page reader's first draw) or never.
+    bool lastAloneInUse() const { return m_lastAloneInUse; }
 
     // The rows' pictures are asked for as the screen is made.
     void classBegin() override;
@@ -71,4 +75,5 @@ private:
     QString m_title;
     WallpaperListModel m_WallpaperList;
     bool m_noneInUse = false;
+    bool m_lastAloneInUse = false;
 };

@@ -219,6 +219,7 @@ private Q_SLOTS:
         ViewerWallpaperTableViewController screen;
         screen.viewDidLoad();
         QCOMPARE(screen.noneInUse(), used.isEmpty());
+        QCOMPARE(screen.lastAloneInUse(), !used.isEmpty());
         if (used.isEmpty()) { // a reader opened now shows none, and does not hang
             UserDefaults::standard().set(u"useWallpaper"_s, 1);
             ReaderAppearance reader;
