@@ -2,14 +2,12 @@
 
 #include "FatalError.h"
 
-using namespace Qt::StringLiterals;
-
-std::unique_ptr<PersistentContainer> loadedContainer(const QString &screen)
+std::unique_ptr<PersistentContainer> loadedContainer()
 {
     auto container = std::make_unique<PersistentContainer>(AppDelegate::modelName);
-    container->loadPersistentStores([&screen](const std::optional<StoreError> &error) {
+    container->loadPersistentStores([](const std::optional<StoreError> &error) {
         if (error)
-            fatalError(error->unresolvedMessage() + (screen.isEmpty() ? QString() : u" ("_s + screen + u')'));
+            fatalError(error->unresolvedMessage());
     });
     return container;
 }
@@ -20,10 +18,10 @@ AppDelegate &AppDelegate::shared()
     return delegate;
 }
 
-PersistentContainer &AppDelegate::persistentContainer(const QString &screen)
+PersistentContainer &AppDelegate::persistentContainer()
 {
     if (!m_persistentContainer)
-        m_persistentContainer = loadedContainer(screen);
+        m_persistentContainer = loadedContainer();
     return *m_persistentContainer;
 }
 

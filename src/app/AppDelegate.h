@@ -13,9 +13,8 @@ public:
     // The name of the model, and of its store.
     static inline const QString modelName = QStringLiteral("TheLarkwellsBook");
 
-    // Created and loaded on first use; a store that cannot be loaded is a fatal stop, whose
-    // message names the screen that first asked, when given.
-    PersistentContainer &persistentContainer(const QString &screen = {});
+    // Created and loaded on first use; a store that cannot be loaded is a fatal stop.
+    PersistentContainer &persistentContainer();
     ManagedObjectContext &viewContext() { return persistentContainer().viewContext(); }
 
     // Saves the main context when it has changes; a failed save is a fatal stop.
@@ -31,6 +30,5 @@ private:
     std::unique_ptr<PersistentContainer> m_persistentContainer;
 };
 
-// A fresh container on the model's store, loaded; a load failure is a fatal stop, whose message
-// ends with the name of the screen that opened the container, when given.
-std::unique_ptr<PersistentContainer> loadedContainer(const QString &screen = {});
+// A fresh container on the model's store, loaded; a load failure is a fatal stop.
+std::unique_ptr<PersistentContainer> loadedContainer();

@@ -82,7 +82,7 @@ void CoverViewController::viewDidLoad()
 
 void CoverViewController::viewDidAppear()
 {
-    AppDelegate::shared().persistentContainer(u"CoverViewController"_s);
+    AppDelegate::shared().persistentContainer();
 }
 
 void CoverViewController::viewWillAppear()

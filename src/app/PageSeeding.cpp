@@ -10,15 +10,10 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-// The screen that seeds the pages, named when the store will not open.
-const QString screen = u"CoverViewController"_s;
-}
-
 void PageSeeding::clearPoemPrayers()
 {
     StoreSnapshots::take(u"first-launch"_s);
-    const auto container = loadedContainer(screen);
+    const auto container = loadedContainer();
     // The main store opens now rather than at the first page: were this container the last
     // connection when it closes, SQLite would checkpoint and delete the write-ahead log (with
     // its disk flushes) only for the loading to create it again.
@@ -28,7 +23,7 @@ void PageSeeding::clearPoemPrayers()
 
 void PageSeeding::loadPoemPrayers(const QStringList &columns)
 {
-    const auto container = loadedContainer(screen); // the store must open, as on every seeding
+    const auto container = loadedContainer(); // the store must open, as on every seeding
     const QString path = Bundle::main().pathForResource(Path, u"txt"_s);
     const auto read = PageFile::read(path, u"Book.txt"_s);
     if (const auto *error = std::get_if<PageFile::ReadError>(&read)) {
