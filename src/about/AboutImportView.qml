@@ -79,6 +79,8 @@ ScreenPanel {
             text: qsTr("Choose File…")
             onClicked: controller.viewDidLoad()
         }
+        // Its lines wrap rather than end cut short: the whole file stays readable, and
+        // editable, before it replaces the articles.
         UpdateFileTextView {
             objectName: "ImportTextView"
             Layout.fillWidth: true

@@ -33,7 +33,7 @@ ScreenPanel {
         // Loaded from its own file: Qt 6.4 cannot create a section heading from a component
         // bound to this page.
         section.delegate: Qt.createComponent("SpecialDaySectionHeading.qml")
-        delegate: SpecialDayCell {
+        delegate: SpecialDaysTableViewCell {
             required property int index
             objectName: "row-" + index
             width: table.width

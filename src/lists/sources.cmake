@@ -13,7 +13,7 @@ list(APPEND LARKWELLS_QML
     lists/GMNTableViewCell.qml
     lists/MainTableView.qml
     lists/PageNumberLabel.qml
-    lists/SpecialDayCell.qml
+    lists/SpecialDaysTableViewCell.qml
     lists/SpecialDaySectionHeading.qml
     lists/SpecialDaysTableView.qml
     lists/OGMNTableViewCell.qml
