@@ -82,23 +82,14 @@
     </message>
 </context>
 <context>
-    <name>CoverView</name>
+    <name>ChooserPath</name>
     <message>
-        <source>The Larkwells Book</source>
+        <source>Up</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>The Larkwells Book cover</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close menu</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation type="unfinished"></translation>
-    </message>
+</context>
+<context>
+    <name>CoverMenu</name>
     <message>
         <source>Favorites</source>
         <translation type="unfinished"></translation>
@@ -117,6 +108,25 @@
     </message>
     <message>
         <source>Update Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CoverView</name>
+    <message>
+        <source>The Larkwells Book</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Larkwells Book cover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -487,6 +497,10 @@
         <source>Save a Copy</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SaveTextDialog</name>
@@ -496,6 +510,10 @@
     </message>
     <message>
         <source>Text files (*.txt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -689,6 +707,10 @@
     <name>WallpaperTableView</name>
     <message>
         <source>No wallpaper of this set is in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last wallpaper alone is hardly ever shown: turn on another</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
