@@ -53,7 +53,7 @@ void EditSpecialDaysViewController::viewDidLoad()
 
     // Always styled; a colour code outside 0..3 shows the default black.
     Fonts::requireKnown(m_appearance.FontName());
-    m_appearance.setStyle(true, textColorFor(m_appearance.textColorCode()).value_or(QColor(Qt::black)));
+    m_appearance.setStyle(true, textColorFor(m_appearance.textColor()).value_or(QColor(Qt::black)));
     setPoemPrayerText(m_SpecialDayText);
     Q_EMIT loaded();
 }

@@ -75,7 +75,7 @@ QImage render(const QString &text, const ReaderAppearance &appearance)
     painter.scale(scale, scale);
     painter.translate(sidePadding, topPadding);
     QAbstractTextDocumentLayout::PaintContext context;
-    context.palette.setColor(QPalette::Text, appearance.textColor());
+    context.palette.setColor(QPalette::Text, appearance.shownTextColor());
     document.documentLayout()->draw(&painter, context);
     return picture;
 }

@@ -17,7 +17,7 @@ void ReaderAppearance::read(double defaultFontSize)
 {
     m_useWallpaper = Preferences::integerIfPresent(PreferenceKeys::useWallpaper);
     m_FontName = Preferences::stringOrAbsent(PreferenceKeys::FontName);
-    m_textColorCode = Preferences::integerIfPresent(PreferenceKeys::textColor).value_or(0);
+    m_textColor = Preferences::integerIfPresent(PreferenceKeys::textColor).value_or(0);
     m_ReaderFontSize = Preferences::doubleIfPresent(PreferenceKeys::ReaderFontSize).value_or(defaultFontSize);
     if (m_useWallpaper == 1)
         m_wallpaper = Bundle::main().imageUrl(Wallpapers::ViewerWallpaper().value(m_ViewerRandomNumberGen));
@@ -29,7 +29,7 @@ void ReaderAppearance::read(double defaultFontSize)
 
 bool ReaderAppearance::applyTextColor()
 {
-    const auto color = textColorFor(m_textColorCode);
+    const auto color = textColorFor(m_textColor);
     if (!color)
         return false;
     Fonts::requireKnown(m_FontName);
@@ -40,7 +40,7 @@ bool ReaderAppearance::applyTextColor()
 void ReaderAppearance::setStyle(bool styled, const QColor &color)
 {
     m_styled = styled;
-    m_textColor = color;
+    m_shownTextColor = color;
     m_fontSize = styled ? m_ReaderFontSize : 15.0;
     Q_EMIT changed();
     Q_EMIT fontSizeChanged();
@@ -78,11 +78,11 @@ void ReaderAppearance::setNightPage(bool nightPage)
 QColor ReaderAppearance::nightTextColor() const
 {
     // Follows the colour the text is shown in (a marked search page is black whatever is stored).
-    if (m_textColor == textColorFor(1))
+    if (m_shownTextColor == textColorFor(1))
         return QColor(0xf4, 0xc8, 0xf4);
-    if (m_textColor == textColorFor(2))
+    if (m_shownTextColor == textColorFor(2))
         return QColor(0xff, 0xcc, 0xc4);
-    if (m_textColor == textColorFor(3))
+    if (m_shownTextColor == textColorFor(3))
         return QColor(0xcc, 0xda, 0xff);
     return QColor(0xee, 0xe8, 0xdc); // a warm paper white
 }

@@ -16,7 +16,7 @@ class ReaderAppearance : public QObject
     QML_UNCREATABLE("Each reader screen owns its appearance")
     Q_PROPERTY(QString FontName READ FontName NOTIFY changed)
     Q_PROPERTY(bool styled READ styled NOTIFY changed)
-    Q_PROPERTY(QColor textColor READ textColor NOTIFY changed)
+    Q_PROPERTY(QColor shownTextColor READ shownTextColor NOTIFY changed)
     Q_PROPERTY(QUrl wallpaper READ wallpaper NOTIFY changed)
     Q_PROPERTY(double ReaderFontSize READ ReaderFontSize NOTIFY fontSizeChanged)
     Q_PROPERTY(double fontSize READ fontSize NOTIFY fontSizeChanged)
@@ -51,7 +51,8 @@ public:
 
     QString FontName() const { return m_FontName; }
     bool styled() const { return m_styled; }
-    QColor textColor() const { return m_textColor; }
+    // The colour the text is shown in.
+    QColor shownTextColor() const { return m_shownTextColor; }
     QUrl wallpaper() const { return m_wallpaper; }
     double ReaderFontSize() const { return m_ReaderFontSize; }
     double fontSize() const { return m_fontSize; }
@@ -59,7 +60,7 @@ public:
     int ViewerRandomNumberGen() const { return m_ViewerRandomNumberGen; }
     std::optional<qint64> useWallpaper() const { return m_useWallpaper; }
     // The stored colour code; 0 when none is stored.
-    qint64 textColorCode() const { return m_textColorCode; }
+    qint64 textColor() const { return m_textColor; }
     bool night() const { return m_night; }
     // The light counterpart of the stored colour, read on the night surface.
     QColor nightTextColor() const;
@@ -75,10 +76,10 @@ Q_SIGNALS:
 private:
     int m_ViewerRandomNumberGen = 0;
     std::optional<qint64> m_useWallpaper;
-    qint64 m_textColorCode = 0;
+    qint64 m_textColor = 0;
     QString m_FontName;
     bool m_styled = false;
-    QColor m_textColor = Qt::black;
+    QColor m_shownTextColor = Qt::black;
     QUrl m_wallpaper;
     double m_ReaderFontSize = 0;
     double m_fontSize = 15.0; // the size the text is shown at

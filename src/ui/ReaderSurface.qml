@@ -94,7 +94,7 @@ Flickable {
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
         horizontalAlignment: surface.appearance.styled ? TextEdit.AlignHCenter : TextEdit.AlignLeft
-        color: surface.appearance.night ? surface.appearance.nightTextColor : surface.appearance.textColor
+        color: surface.appearance.night ? surface.appearance.nightTextColor : surface.appearance.shownTextColor
         font.family: surface.appearance.styled ? surface.appearance.FontName : Theme.plainFontFamily
         font.pixelSize: surface.appearance.fontSize
         topPadding: 8

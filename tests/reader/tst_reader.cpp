@@ -67,7 +67,7 @@ void selectSpecialDay(const QString &ampm, const QString &poem)
 // The look as "colour size wallpaper", or "plain" for the laid-out text view.
 QString look(const ReaderAppearance &appearance)
 {
-    return appearance.styled() ? u"%1 %2 %3"_s.arg(appearance.textColor().name()).arg(appearance.fontSize()).arg(appearance.wallpaper().fileName())
+    return appearance.styled() ? u"%1 %2 %3"_s.arg(appearance.shownTextColor().name()).arg(appearance.fontSize()).arg(appearance.wallpaper().fileName())
                                : u"plain"_s;
 }
 }
