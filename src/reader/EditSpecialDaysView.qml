@@ -45,9 +45,8 @@ ScreenPanel {
         anchors.fill: parent
         appearance: controller.appearance
         accessibleName: controller.title
-        // On a phone the wallpaper is framed 100 points wider than the text and 25 shorter.
-        pictureOverhang: controller.deviceid === 1 ? 100 : 0
-        pictureShortfall: controller.deviceid === 1 ? 25 : 0
+        phoneFrame: controller.deviceid === 1
+        pictureOverhang: 100
         text: controller.PoemPrayerText
         onSizeStepRequested: direction => controller.StepFontSize(direction)
         onPinched: scale => controller.HandlePinch(scale)

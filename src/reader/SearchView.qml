@@ -52,8 +52,7 @@ ScreenPanel {
         anchors.fill: parent
         appearance: controller.appearance
         accessibleName: controller.title
-        // On a phone the wallpaper stops 25 points short of the text's bottom.
-        pictureShortfall: controller.deviceid === 1 ? 25 : 0
+        phoneFrame: controller.deviceid === 1
         readOnly: true
         textFormat: TextEdit.RichText
         text: controller.PoemPrayerText

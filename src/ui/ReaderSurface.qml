@@ -14,10 +14,10 @@ Flickable {
     property alias readOnly: textView.readOnly
     property alias textView: textView
     property string accessibleName
-    // How far the wallpaper reaches past the text's right edge, and how far short of its bottom
-    // it stops: some readers frame it so on a phone.
+    // Some readers frame the wallpaper apart from the text on a phone: it stops 25 points short
+    // of the text's bottom and reaches `pictureOverhang` past its right edge.
+    property bool phoneFrame: false
     property real pictureOverhang: 0
-    property real pictureShortfall: 0
     // The reader asks for one step up (1) or down (-1) of the text size.
     signal sizeStepRequested(int direction)
     signal pinched(real scale)
@@ -60,8 +60,8 @@ Flickable {
 
     Image {
         objectName: "img"
-        width: surface.contentWidth + surface.pictureOverhang
-        height: surface.contentHeight - surface.pictureShortfall
+        width: surface.contentWidth + (surface.phoneFrame ? surface.pictureOverhang : 0)
+        height: surface.contentHeight - (surface.phoneFrame ? 25 : 0)
         // Not before the page has its width, and never asked for at no size, which would decode
         // the whole picture.
         source: surface.width > 0 ? surface.appearance.wallpaper : ""
