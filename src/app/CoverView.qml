@@ -64,9 +64,13 @@ ScreenPanel {
         readonly property real coverScale: root.width <= root.height
             ? Math.max(root.width / natural.width, root.height / natural.height)
             : Math.min(root.width / natural.width, root.height / natural.height)
-        anchors.centerIn: parent
-        width: natural.width * coverScale
-        height: natural.height * coverScale
+        // Centred on whole pixels, at the size in pixels the picture is drawn at: it is copied to
+        // the screen as it is, never resampled, which would blur it and cost every frame.
+        readonly property real pixelRatio: Screen.devicePixelRatio
+        width: Math.round(natural.width * coverScale * pixelRatio) / pixelRatio
+        height: Math.round(natural.height * coverScale * pixelRatio) / pixelRatio
+        x: Math.round((root.width - width) / 2 * pixelRatio) / pixelRatio
+        y: Math.round((root.height - height) / 2 * pixelRatio) / pixelRatio
         source: controller.coverSource
         // Drawn once for the window the book opens in (set once the page is made), and kept for
         // later launches.

@@ -14,6 +14,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -171,6 +172,22 @@ private Q_SLOTS:
         QFETCH(qreal, scale);
         QFETCH(QSize, picture);
         QCOMPARE(CoverCache::pixelSize(window, scale), picture);
+    }
+
+    // Shown at the size it was drawn, on whole pixels: copied as it is rather than resampled,
+    // which blurs it and costs every frame the cover is on screen.
+    void coverIsShownPixelForPixel()
+    {
+        TestEnvironment environment;
+        QQmlApplicationEngine engine;
+        QQuickWindow *window = loadLaunchedWindow(engine);
+        QVERIFY(window);
+        window->resize(600, 1000); // the cover fills it 666.7 points wide, its left edge off a pixel
+        QQuickItem *img = waitForItem(window, u"img"_s);
+        QTRY_VERIFY2(img->property("source").toUrl().fileName().startsWith(u"Cover-667x1000-"_s),
+                     qPrintable(img->property("source").toUrl().fileName()));
+        QTRY_COMPARE(img->size(), QSizeF(667, 1000));
+        QCOMPARE(img->x(), std::round(img->x()));
     }
 
     // A window grown past what the cover was drawn for has it drawn again, kept in place of the
