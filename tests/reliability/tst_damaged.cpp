@@ -16,7 +16,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-enum class Damage { Truncated, ZeroLength, NotSqlite, FutureVersion, ReadOnly, MissingColumn, MissingTable, OldMissingColumn };
+enum class Damage { Truncated, Overwritten, ZeroLength, NotSqlite, FutureVersion, ReadOnly, MissingColumn, MissingTable, OldMissingColumn };
 
 // A store with enough pages to fill many database pages, closed.
 void writeStore()
@@ -34,6 +34,15 @@ void damage(const QString &path, Damage how)
     case Damage::Truncated: {
         const QByteArray bytes = readFile(path);
         QVERIFY(writeFile(path, bytes.left(bytes.size() / 2)));
+        break;
+    }
+    case Damage::Overwritten: { // a page in the middle, the size kept, some time after it was closed
+        QByteArray bytes = readFile(path);
+        bytes.replace(bytes.size() / 2 / 4096 * 4096, 4096, QByteArray(4096, '\x55'));
+        QVERIFY(writeFile(path, bytes));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(2), QFileDevice::FileModificationTime));
         break;
     }
     case Damage::ZeroLength: QVERIFY(writeFile(path, {})); break;
@@ -68,6 +77,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("detail");
         const QString model = u"Unresolved error The store does not match the book's model."_s;
         QTest::newRow("truncated") << int(Damage::Truncated) << u"Unresolved error database disk image is malformed"_s << QString();
+        QTest::newRow("a page overwritten") << int(Damage::Overwritten) << u"Unresolved error The store file is damaged."_s << QString();
         QTest::newRow("zero-length") << int(Damage::ZeroLength) << u"Unresolved error The store file is empty."_s << QString();
         QTest::newRow("not SQLite") << int(Damage::NotSqlite) << u"Unresolved error file is not a database"_s << QString();
         QTest::newRow("future version") << int(Damage::FutureVersion) << u"Unresolved error The store was written by a newer version"_s << QString();

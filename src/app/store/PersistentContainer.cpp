@@ -44,6 +44,47 @@ std::optional<StoreError> execAll(QSqlDatabase &database, const QString &path, c
     return std::nullopt;
 }
 
+// A store found sound is not read through again while it stays as this application left it:
+// the same size and times on disk, and no changes waiting in its log. One changed by anything
+// else, or left with changes in its log by a process that ended without closing it, is checked.
+// The mark lives in the cache folder: without it the store is only checked once more.
+QString soundMarkPath(const QString &path)
+{
+    const QFileInfo store(path);
+    return QDir(store.path()).filePath(u"cache/"_s + store.fileName() + u".sound"_s);
+}
+
+QByteArray fileMark(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return {};
+    return QByteArray::number(file.size()) + ' ' + QByteArray::number(file.lastModified().toMSecsSinceEpoch()) + ' '
+        + QByteArray::number(file.fileTime(QFileDevice::FileMetadataChangeTime).toMSecsSinceEpoch());
+}
+
+bool changesWaiting(const QString &path)
+{
+    return QFileInfo(path + u"-wal"_s).size() > 0;
+}
+
+bool knownSound(const QString &path)
+{
+    QFile mark(soundMarkPath(path));
+    const QByteArray current = fileMark(path);
+    return !current.isEmpty() && !changesWaiting(path) && mark.open(QIODevice::ReadOnly) && mark.readAll() == current;
+}
+
+void markSound(const QString &path)
+{
+    const QString markPath = soundMarkPath(path);
+    if (changesWaiting(path) || !QDir().mkpath(QFileInfo(markPath).path()))
+        return;
+    QFile mark(markPath);
+    if (mark.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        mark.write(fileMark(path));
+}
+
 // Each step brings the schema from version i to i + 1, in one transaction.
 const QList<QStringList> migrations{
     {
@@ -90,6 +131,9 @@ PersistentContainer::~PersistentContainer()
         QSqlDatabase::database(m_connectionName, false).close();
         QSqlDatabase::removeDatabase(m_connectionName);
     }
+    // Closed by the last connection, the log is written into the store and removed.
+    if (!m_soundStore.isEmpty())
+        markSound(m_soundStore);
 }
 
 QString PersistentContainer::storePath() const
@@ -123,16 +167,22 @@ std::optional<StoreError> PersistentContainer::open()
     }
     if (const auto error = refuseUnwritable(path))
         return error;
+    const bool sound = knownSound(path); // before this connection touches the store or its log
     QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connectionName);
     database.setDatabaseName(path);
     if (!database.open())
         return errorOf(database.lastError(), path);
     // Reads only: a damaged or newer store is refused before anything could write to it.
-    if (const auto error = check(database, path))
+    if (const auto error = check(database, path, !sound))
         return error;
     if (const auto error = configure(database, path))
         return error;
-    return migrate(database, path);
+    if (const auto error = migrate(database, path))
+        return error;
+    if (!sound)
+        markSound(path);
+    m_soundStore = path;
+    return std::nullopt;
 }
 
 // A new store is built beside its final name and moved into place once its schema is written,
@@ -194,6 +244,7 @@ std::optional<StoreError> PersistentContainer::moveIntoPlace(const QString &buil
         return StoreError{u"The new store could not be written to disk."_s, {{u"NSFilePath"_s, building}}};
     if (!QFile::rename(building, path))
         return StoreError{u"The new store could not be moved into place."_s, {{u"NSFilePath"_s, path}}};
+    markSound(path); // written here, whole
     return std::nullopt;
 }
 
@@ -208,15 +259,19 @@ std::optional<StoreError> PersistentContainer::refuseUnwritable(const QString &p
     return std::nullopt;
 }
 
-std::optional<StoreError> PersistentContainer::check(QSqlDatabase &database, const QString &path)
+std::optional<StoreError> PersistentContainer::check(QSqlDatabase &database, const QString &path, bool readThrough)
 {
     QSqlQuery query(database);
-    if (!query.exec(u"PRAGMA busy_timeout = 5000"_s) || !query.exec(u"PRAGMA quick_check(1)"_s) || !query.next())
+    if (!query.exec(u"PRAGMA busy_timeout = 5000"_s))
         return errorOf(query.lastError(), path);
-    const QString verdict = query.value(0).toString();
-    query.finish();
-    if (verdict != u"ok"_s)
-        return StoreError{u"The store file is damaged."_s, {{u"NSFilePath"_s, path}, {u"reason"_s, verdict}}};
+    if (readThrough) {
+        if (!query.exec(u"PRAGMA quick_check(1)"_s) || !query.next())
+            return errorOf(query.lastError(), path);
+        const QString verdict = query.value(0).toString();
+        query.finish();
+        if (verdict != u"ok"_s)
+            return StoreError{u"The store file is damaged."_s, {{u"NSFilePath"_s, path}, {u"reason"_s, verdict}}};
+    }
     if (!query.exec(u"PRAGMA user_version"_s) || !query.next())
         return errorOf(query.lastError(), path);
     const int version = query.value(0).toInt();

@@ -35,7 +35,8 @@ private:
     static QString building(const QString &path);
     static std::optional<StoreError> moveIntoPlace(const QString &building, const QString &path);
     static std::optional<StoreError> refuseUnwritable(const QString &path);
-    static std::optional<StoreError> check(QSqlDatabase &database, const QString &path);
+    // `readThrough`: every page is read and its structure checked, not only the schema.
+    static std::optional<StoreError> check(QSqlDatabase &database, const QString &path, bool readThrough);
     static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> configureUnflushed(QSqlDatabase &database, const QString &path);
     static std::optional<StoreError> migrate(QSqlDatabase &database, const QString &path);
@@ -44,4 +45,5 @@ private:
     QString m_name;
     QString m_connectionName;
     std::unique_ptr<ManagedObjectContext> m_viewContext;
+    QString m_soundStore; // the store this container opened and found sound
 };
