@@ -108,6 +108,20 @@ private Q_SLOTS:
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     }
 
+    // Damage done while the store is open is not taken for sound when it closes.
+    void storeDamagedWhileOpenIsFoundAtTheNextOpen()
+    {
+        TestEnvironment environment;
+        const QString path = QDir(environment.dataDirectory()).filePath(u"TheLarkwellsBook.sqlite"_s);
+        writeStore();
+        AppDelegate::shared().viewContext();
+        damage(path, Damage::Overwritten);
+        AppDelegate::shared().reset();
+
+        const QString message = fatalStop([] { AppDelegate::shared().viewContext(); });
+        QVERIFY2(message.startsWith(u"Unresolved error The store file is damaged."_s), qPrintable(message));
+    }
+
     // A launch over a store it cannot open stops at start-up, naming the cover screen, and leaves
     // the store as it is: a first launch (the preferences lost) at the seeding, a later one once
     // the cover is on screen.

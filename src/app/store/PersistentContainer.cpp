@@ -131,8 +131,10 @@ PersistentContainer::~PersistentContainer()
         QSqlDatabase::database(m_connectionName, false).close();
         QSqlDatabase::removeDatabase(m_connectionName);
     }
-    // Closed by the last connection, the log is written into the store and removed.
-    if (!m_soundStore.isEmpty())
+    // Closed by the last connection, the log is written into the store and removed. A store
+    // changed since it was found sound, by this session or by anything else, is read through
+    // now, so that the next launch need not.
+    if (!m_soundStore.isEmpty() && !changesWaiting(m_soundStore) && !knownSound(m_soundStore) && readsSound(m_soundStore))
         markSound(m_soundStore);
 }
 
@@ -183,6 +185,20 @@ std::optional<StoreError> PersistentContainer::open()
         markSound(path);
     m_soundStore = path;
     return std::nullopt;
+}
+
+bool PersistentContainer::readsSound(const QString &path) const
+{
+    const QString connection = m_connectionName + u"-check"_s;
+    bool sound = false;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
+        database.setDatabaseName(path);
+        sound = database.open() && !check(database, path, true);
+        database.close();
+    }
+    QSqlDatabase::removeDatabase(connection);
+    return sound;
 }
 
 // A new store is built beside its final name and moved into place once its schema is written,

@@ -35,6 +35,8 @@ private:
     static QString building(const QString &path);
     static std::optional<StoreError> moveIntoPlace(const QString &building, const QString &path);
     static std::optional<StoreError> refuseUnwritable(const QString &path);
+    // Whether the store at `path` passes every check, read through on a connection of its own.
+    bool readsSound(const QString &path) const;
     // `readThrough`: every page is read and its structure checked, not only the schema.
     static std::optional<StoreError> check(QSqlDatabase &database, const QString &path, bool readThrough);
     static std::optional<StoreError> configure(QSqlDatabase &database, const QString &path);
